@@ -1,0 +1,28 @@
+#pragma once
+// A form: a window whose controls stand at absolute positions in twips.
+#include "platform/controls.h"
+
+#include <string>
+#include <vector>
+
+namespace platform {
+
+class Form : public Control {
+public:
+    explicit Form(std::string name);
+
+    Prop<std::string> Caption{this, "Caption"};
+    Prop<int> WindowState{this, "WindowState", 0}; // 2: maximised
+    Prop<int> MousePointer{this, "MousePointer", 0}; // 11: hourglass
+    Prop<int> BackColor{this, "BackColor", static_cast<int>(0x8000000Fu)}; // the system's face colour
+
+    // Every control of the form, in the order they were made.
+    const std::vector<Control*>& controls() const { return controls_; }
+    Control* find(const std::string& name) const;
+
+private:
+    friend class Control;
+    std::vector<Control*> controls_;
+};
+
+} // namespace platform

@@ -1,0 +1,334 @@
+#include "platform/picture_box.h"
+
+#include "platform/vb_error.h"
+#include "platform/vb_numeric.h"
+
+#include <algorithm>
+#include <cmath>
+
+namespace platform {
+
+namespace {
+
+uint32_t rgb24(int32_t color) { return static_cast<uint32_t>(color) & 0xFFFFFFu; }
+
+int64_t toDevice(double v) {
+    if (!std::isfinite(v)) vb::raise(vb::Overflow);
+    double r = vb::roundHalfEven(v);
+    if (r < -2147483648.0 || r > 2147483647.0) vb::raise(vb::Overflow);
+    return static_cast<int64_t>(r);
+}
+
+} // namespace
+
+PictureBox::PictureBox(Form* form, std::string name, Design design)
+    : Control(form, std::move(name), ControlKind::PictureBox),
+      BackColor(this, "BackColor", design.backColor), design_(design), unit_(design.scale) {
+    observerId_ = observe([this](const PropBase* p) {
+        if (p == &BackColor) onBackColor();
+    });
+    resetImage();
+}
+
+// ---- scale ----
+
+double PictureBox::unitsPerPixel(bool across) const {
+    switch (unit_) {
+    case ScaleUnit::Pixels: return 1.0;
+    case ScaleUnit::Twips: return 15.0;
+    case ScaleUnit::User: {
+        int inner = across ? innerW_ : innerH_;
+        double extent = across ? userW_ : userH_;
+        return inner == 0 ? 1.0 : extent / inner;
+    }
+    }
+    return 1.0;
+}
+
+int64_t PictureBox::toPixelX(double x) const {
+    double u = unitsPerPixel(true);
+    return toDevice(u == 0 ? 0 : x / u);
+}
+
+int64_t PictureBox::toPixelY(double y) const {
+    double u = unitsPerPixel(false);
+    return toDevice(u == 0 ? 0 : y / u);
+}
+
+PictureBox::ScaleProp& PictureBox::ScaleProp::operator=(double units) {
+    PictureBox& b = *box_;
+    if (b.unit_ != ScaleUnit::User) {
+        b.userW_ = b.innerW_ * b.unitsPerPixel(true);
+        b.userH_ = b.innerH_ * b.unitsPerPixel(false);
+        b.unit_ = ScaleUnit::User;
+    }
+    (across_ ? b.userW_ : b.userH_) = units;
+    changed();
+    return *this;
+}
+
+PictureBox::ScaleProp::operator double() const {
+    const PictureBox& b = *box_;
+    if (b.unit_ == ScaleUnit::User) return across_ ? b.userW_ : b.userH_;
+    return (across_ ? b.innerW_ : b.innerH_) * b.unitsPerPixel(across_);
+}
+
+std::string PictureBox::ScaleProp::text() const { return propText(static_cast<double>(*this)); }
+
+// ---- geometry ----
+
+double PictureBox::checkGeometry(const TwipsProp& prop, double twips) {
+    double kept = Control::checkGeometry(prop, twips);
+    if (design_.autoRedraw && (&prop == &Width || &prop == &Height)) {
+        auto inner = [this](double t) {
+            return std::max<int64_t>(0, static_cast<int64_t>(t / 15.0) - design_.borderPixels);
+        };
+        int64_t w = &prop == &Width ? inner(kept) : innerW_;
+        int64_t h = &prop == &Height ? inner(kept) : innerH_;
+        vb::checkAllocation(static_cast<std::size_t>(w * h), sizeof(uint32_t));
+    }
+    return kept;
+}
+
+void PictureBox::geometryChanged(const TwipsProp& prop) {
+    if (&prop != &Width && &prop != &Height) return;
+    int w = std::max(0, Width.pixels() - design_.borderPixels);
+    int h = std::max(0, Height.pixels() - design_.borderPixels);
+    if (w == innerW_ && h == innerH_) return;
+    // A scale of the caller's own keeps its units per pixel when the box is resized.
+    if (unit_ == ScaleUnit::User) {
+        if (innerW_ > 0) userW_ = userW_ / innerW_ * w;
+        if (innerH_ > 0) userH_ = userH_ / innerH_ * h;
+    }
+    std::shared_ptr<Raster> old = image_;
+    innerW_ = w;
+    innerH_ = h;
+    resetImage();
+    if (design_.autoRedraw && old) { // what was drawn stays where the box still has room
+        Raster& r = *image_;
+        int cw = std::min(old->width, w), ch = std::min(old->height, h);
+        for (int y = 0; y < ch; ++y)
+            std::copy_n(&old->px[static_cast<std::size_t>(y) * old->width], cw,
+                        &r.px[static_cast<std::size_t>(y) * w]);
+    }
+    if (!design_.autoRedraw) ops_.clear();
+    changedPixels();
+}
+
+// ---- content ----
+
+void PictureBox::resetImage() {
+    if (!design_.autoRedraw) {
+        image_.reset();
+        return;
+    }
+    auto r = std::make_shared<Raster>(innerW_, innerH_, rgb24(BackColor));
+    if (picture_) {
+        int cw = std::min(picture_->width, innerW_), ch = std::min(picture_->height, innerH_);
+        for (int y = 0; y < ch; ++y)
+            std::copy_n(&picture_->px[static_cast<std::size_t>(y) * picture_->width], cw,
+                        &r->px[static_cast<std::size_t>(y) * innerW_]);
+    }
+    image_ = std::move(r);
+}
+
+Raster& PictureBox::writable() {
+    if (image_.use_count() > 1) image_ = std::make_shared<Raster>(*image_);
+    return *image_;
+}
+
+uint32_t PictureBox::background(int64_t x, int64_t y) const {
+    if (picture_ && x < picture_->width && y < picture_->height)
+        return picture_->at(static_cast<int>(x), static_cast<int>(y));
+    return rgb24(BackColor);
+}
+
+void PictureBox::plot(Raster& r, int64_t x, int64_t y, uint32_t color) const {
+    uint32_t& p = r.at(static_cast<int>(x), static_cast<int>(y));
+    p = DrawMode.get() == kXorPen ? (p ^ color) : color;
+}
+
+void PictureBox::onBackColor() {
+    Cls();
+}
+
+void PictureBox::Cls() {
+    ops_.clear();
+    resetImage();
+    changedPixels();
+}
+
+void PictureBox::Refresh() {
+    // A box that keeps nothing is repainted from its picture: what was drawn is gone.
+    if (!design_.autoRedraw) {
+        ops_.clear();
+        changedPixels();
+    }
+    notify(nullptr);
+}
+
+PictureHandle PictureBox::PictureProp::get() const { return box_->picture_; }
+
+PictureBox::PictureProp& PictureBox::PictureProp::operator=(const PictureHandle& picture) {
+    box_->picture_ = picture;
+    box_->Cls();
+    return *this;
+}
+
+int32_t PictureBox::Point(double x, double y) const {
+    int64_t px = toPixelX(x), py = toPixelY(y);
+    if (!inner().contains(px, py)) return -1;
+    if (design_.autoRedraw) return static_cast<int32_t>(image_->at(static_cast<int>(px), static_cast<int>(py)));
+    for (auto it = ops_.rbegin(); it != ops_.rend(); ++it) {
+        if (auto* line = std::get_if<LineOp>(&*it)) {
+            if (line->seg.contains(px, py)) return static_cast<int32_t>(line->color);
+        } else if (auto* fill = std::get_if<FillOp>(&*it)) {
+            if (fill->rect.contains(px, py)) return static_cast<int32_t>(fill->color);
+        } else {
+            const auto& paint = std::get<PaintOp>(*it);
+            if (paint.bounds().contains(px, py)) {
+                PixelRect b = paint.bounds();
+                int64_t sx = stretchSource(px - b.x0, paint.w, 0, paint.src->width);
+                int64_t sy = stretchSource(py - b.y0, paint.h, 0, paint.src->height);
+                return static_cast<int32_t>(paint.src->at(static_cast<int>(sx), static_cast<int>(sy)));
+            }
+        }
+    }
+    return static_cast<int32_t>(background(px, py));
+}
+
+void PictureBox::PSet(double x, double y, int32_t color) {
+    int64_t px = toPixelX(x), py = toPixelY(y);
+    if (!inner().contains(px, py)) return;
+    if (design_.autoRedraw) {
+        plot(writable(), px, py, rgb24(color));
+    } else {
+        ops_.push_back(LineOp{LineSegment{static_cast<int32_t>(px), static_cast<int32_t>(py),
+                                          static_cast<int32_t>(px), static_cast<int32_t>(py)},
+                              rgb24(color)});
+    }
+    changedPixels();
+}
+
+void PictureBox::Line(double x1, double y1, double x2, double y2, int32_t color, int kind) {
+    int64_t ax = toPixelX(x1), ay = toPixelY(y1), bx = toPixelX(x2), by = toPixelY(y2);
+    uint32_t c = rgb24(color);
+    auto seg = [](int64_t sx, int64_t sy, int64_t ex, int64_t ey) {
+        return LineSegment{static_cast<int32_t>(sx), static_cast<int32_t>(sy),
+                           static_cast<int32_t>(ex), static_cast<int32_t>(ey)};
+    };
+    std::vector<LineSegment> segments;
+    PixelRect filled;
+    bool fill = false;
+    if (kind == kFilledBoxKind || kind == kBoxKind) {
+        int64_t l = std::min(ax, bx), r = std::max(ax, bx), t = std::min(ay, by),
+                b = std::max(ay, by);
+        if (kind == kFilledBoxKind) {
+            fill = true;
+            filled = PixelRect{l, t, r + 1, b + 1};
+        } else { // each pixel of the outline once, so that an XOR box undoes itself
+            segments.push_back(seg(l, t, r, t));
+            if (b != t) segments.push_back(seg(l, b, r, b));
+            if (b - t > 1) {
+                segments.push_back(seg(l, t + 1, l, b - 1));
+                if (r != l) segments.push_back(seg(r, t + 1, r, b - 1));
+            }
+        }
+    } else {
+        segments.push_back(seg(ax, ay, bx, by));
+    }
+    if (design_.autoRedraw) {
+        Raster& r = writable();
+        for (const auto& s : segments) s.forEach(inner(), [&](int64_t x, int64_t y) { plot(r, x, y, c); });
+        if (fill) {
+            PixelRect f = filled.intersect(inner());
+            for (int64_t y = f.y0; y < f.y1; ++y)
+                for (int64_t x = f.x0; x < f.x1; ++x) plot(r, x, y, c);
+        }
+    } else {
+        for (const auto& s : segments) ops_.push_back(LineOp{s, c});
+        if (fill) ops_.push_back(FillOp{filled, c});
+    }
+    changedPixels();
+}
+
+PixelRect PictureBox::PaintOp::bounds() const {
+    int64_t l = w < 0 ? x + w : x, t = h < 0 ? y + h : y;
+    return PixelRect{l, t, l + (w < 0 ? -w : w), t + (h < 0 ? -h : h)};
+}
+
+void PictureBox::PaintPicture(const PictureHandle& picture, double x, double y, double w,
+                              double h) {
+    if (!picture) vb::raise(vb::InvalidCall);
+    PaintOp op{picture, toPixelX(x), toPixelY(y), toPixelX(w), toPixelY(h)};
+    if (picture->width == 0 || picture->height == 0 || op.w == 0 || op.h == 0) return;
+    if (design_.autoRedraw) {
+        Raster& r = writable();
+        PixelRect area = op.bounds().intersect(inner());
+        PixelRect b = op.bounds();
+        for (int64_t py = area.y0; py < area.y1; ++py) {
+            int64_t sy = stretchSource(py - b.y0, op.h, 0, picture->height);
+            for (int64_t px = area.x0; px < area.x1; ++px) {
+                int64_t sx = stretchSource(px - b.x0, op.w, 0, picture->width);
+                r.at(static_cast<int>(px), static_cast<int>(py)) =
+                    picture->at(static_cast<int>(sx), static_cast<int>(sy));
+            }
+        }
+    } else {
+        PixelRect b = op.bounds();
+        // Nothing under a picture that covers the whole box can show again.
+        if (b.x0 <= 0 && b.y0 <= 0 && b.x1 >= innerW_ && b.y1 >= innerH_) ops_.clear();
+        ops_.push_back(std::move(op));
+    }
+    changedPixels();
+}
+
+PictureHandle PictureBox::Image() const {
+    if (design_.autoRedraw) return image_;
+    auto r = std::make_shared<Raster>(innerW_, innerH_, 0u);
+    render(inner(), r->px.data(), innerW_);
+    return r;
+}
+
+void PictureBox::render(const PixelRect& region, uint32_t* dst, std::ptrdiff_t stride) const {
+    PixelRect area = region.intersect(inner());
+    if (area.empty()) return;
+    auto out = [&](int64_t x, int64_t y) -> uint32_t& {
+        return dst[(y - region.y0) * stride + (x - region.x0)];
+    };
+    if (design_.autoRedraw) {
+        for (int64_t y = area.y0; y < area.y1; ++y)
+            std::copy_n(&image_->px[static_cast<std::size_t>(y) * innerW_ + area.x0],
+                        area.x1 - area.x0, &out(area.x0, y));
+        return;
+    }
+    for (int64_t y = area.y0; y < area.y1; ++y)
+        for (int64_t x = area.x0; x < area.x1; ++x) out(x, y) = background(x, y);
+    std::vector<int64_t> srcX;
+    for (const Op& op : ops_) {
+        if (auto* line = std::get_if<LineOp>(&op)) {
+            line->seg.forEach(area, [&](int64_t x, int64_t y) { out(x, y) = line->color; });
+        } else if (auto* fill = std::get_if<FillOp>(&op)) {
+            PixelRect f = fill->rect.intersect(area);
+            for (int64_t y = f.y0; y < f.y1; ++y)
+                std::fill_n(&out(f.x0, y), f.x1 - f.x0, fill->color);
+        } else {
+            const auto& p = std::get<PaintOp>(op);
+            PixelRect b = p.bounds();
+            PixelRect f = b.intersect(area);
+            if (f.empty()) continue;
+            srcX.resize(static_cast<std::size_t>(f.x1 - f.x0));
+            for (int64_t x = f.x0; x < f.x1; ++x)
+                srcX[static_cast<std::size_t>(x - f.x0)] =
+                    stretchSource(x - b.x0, p.w, 0, p.src->width);
+            for (int64_t y = f.y0; y < f.y1; ++y) {
+                int64_t sy = stretchSource(y - b.y0, p.h, 0, p.src->height);
+                const uint32_t* row = &p.src->px[static_cast<std::size_t>(sy) * p.src->width];
+                uint32_t* o = &out(f.x0, y);
+                for (std::size_t i = 0; i < srcX.size(); ++i) o[i] = row[srcX[i]];
+            }
+        }
+    }
+}
+
+} // namespace platform

@@ -1,0 +1,133 @@
+#pragma once
+// The picture box: the surface every tool draws on. A box with AutoRedraw keeps a
+// raster. A box without it (the canvas) keeps no pixels at all: it remembers what was
+// last painted on it (pictures stretched over a rectangle, lines drawn since) and
+// answers Point and renders any exposed part from that description, so a canvas
+// thousands of pixels wide costs no memory and a repaint costs nothing until shown.
+// Such a box draws with the copy pen only: nothing draws on the canvas in XOR.
+#include "platform/controls.h"
+#include "platform/raster.h"
+
+#include <cstdint>
+#include <variant>
+#include <vector>
+
+namespace platform {
+
+enum class ScaleUnit { Pixels, Twips, User };
+
+inline constexpr int kLineKind = 6;       // Line (x1, y1)-(x2, y2)
+inline constexpr int kBoxKind = 22;       // Line ..., B
+inline constexpr int kFilledBoxKind = 38; // Line ..., BF
+inline constexpr int kXorPen = 7;
+inline constexpr int kCopyPen = 13;
+
+class PictureBox : public Control {
+public:
+    struct Design {
+        ScaleUnit scale = ScaleUnit::Pixels;
+        int borderPixels = 0; // what the border takes of Width and of Height, in pixels
+        bool autoRedraw = true;
+        int32_t backColor = 0;
+    };
+    PictureBox(Form* form, std::string name, Design design);
+
+    // ScaleWidth / ScaleHeight: the inner size in the box's scale. Assigning one gives
+    // the box a scale of the caller's own.
+    class ScaleProp : public PropBase {
+    public:
+        ScaleProp(PictureBox* box, const char* name, bool across)
+            : PropBase(box, name), box_(box), across_(across) {}
+        ScaleProp& operator=(double units);
+        operator double() const;
+        std::string text() const override;
+
+    private:
+        PictureBox* box_;
+        bool across_;
+    };
+
+    // Picture: the box's stored picture. Assigning redraws the box from it (an empty
+    // handle clears it); reading gives the handle.
+    class PictureProp {
+    public:
+        explicit PictureProp(PictureBox* box) : box_(box) {}
+        PictureProp& operator=(const PictureHandle& picture);
+        PictureProp& operator=(const PictureProp& other) { return *this = other.get(); }
+        PictureHandle get() const;
+        operator PictureHandle() const { return get(); }
+
+    private:
+        PictureBox* box_;
+    };
+
+    ScaleProp ScaleWidth{this, "ScaleWidth", true};
+    ScaleProp ScaleHeight{this, "ScaleHeight", false};
+    Prop<int> BackColor; // assigning clears the box to the new colour
+    Prop<int> ForeColor{this, "ForeColor", 0};
+    Prop<int> DrawMode{this, "DrawMode", kCopyPen};
+    PictureProp Picture{this};
+
+    int32_t Point(double x, double y) const; // -1 outside the inner area
+    void PSet(double x, double y, int32_t color);
+    void Line(double x1, double y1, double x2, double y2, int32_t color, int kind);
+    // Stretches the whole of picture over (x, y, w, h); a negative w or h mirrors it.
+    void PaintPicture(const PictureHandle& picture, double x, double y, double w, double h);
+    PictureHandle Image() const;
+    void Cls();
+    void Refresh();
+
+    // ---- for views and tests ----
+    bool autoRedraw() const { return design_.autoRedraw; }
+    int borderPixels() const { return design_.borderPixels; }
+    int innerWidth() const { return innerW_; }
+    int innerHeight() const { return innerH_; }
+    // Grows with every change of what the box shows; a view repaints when it moved.
+    uint64_t contentVersion() const { return version_; }
+    // Writes the inner area's pixels of region (clipped to the inner area) into dst,
+    // whose first pixel is region's top left.
+    void render(const PixelRect& region, uint32_t* dst, std::ptrdiff_t stride) const;
+    std::size_t displayListSize() const { return ops_.size(); }
+
+    double checkGeometry(const TwipsProp& prop, double twips) override;
+    void geometryChanged(const TwipsProp& prop) override;
+
+private:
+    struct PaintOp {
+        PictureHandle src;
+        int64_t x, y, w, h; // destination in pixels; negative w or h mirrors
+        PixelRect bounds() const;
+    };
+    struct LineOp {
+        LineSegment seg;
+        uint32_t color;
+    };
+    struct FillOp {
+        PixelRect rect;
+        uint32_t color;
+    };
+    using Op = std::variant<PaintOp, LineOp, FillOp>;
+
+    void onBackColor();
+    int64_t toPixelX(double x) const;
+    int64_t toPixelY(double y) const;
+    double unitsPerPixel(bool across) const;
+    PixelRect inner() const { return PixelRect{0, 0, innerW_, innerH_}; }
+    uint32_t background(int64_t x, int64_t y) const;
+    Raster& writable(); // the raster, unshared
+    void plot(Raster& r, int64_t x, int64_t y, uint32_t color) const;
+    void resetImage();
+    void changedPixels() { ++version_; }
+
+    Design design_;
+    ScaleUnit unit_;
+    double userW_ = 0, userH_ = 0; // user scale extents
+    int innerW_ = 0, innerH_ = 0;
+    std::shared_ptr<Raster> image_; // AutoRedraw boxes
+    PictureHandle picture_;
+    std::vector<Op> ops_; // boxes without AutoRedraw: what was drawn since the last clear
+    uint64_t version_ = 0;
+    int observerId_ = 0;
+};
+
+} // namespace platform

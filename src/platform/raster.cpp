@@ -1,0 +1,43 @@
+#include "platform/raster.h"
+
+#include "platform/vb_error.h"
+
+#include <algorithm>
+
+namespace platform {
+
+Raster::Raster(int w, int h, uint32_t fill) : width(w), height(h) {
+    auto count = static_cast<std::size_t>(w) * static_cast<std::size_t>(h);
+    vb::checkAllocation(count, sizeof(uint32_t));
+    px.assign(count, fill);
+}
+
+PixelRect PixelRect::intersect(const PixelRect& o) const {
+    PixelRect r{std::max(x0, o.x0), std::max(y0, o.y0), std::min(x1, o.x1), std::min(y1, o.y1)};
+    if (r.empty()) return PixelRect{};
+    return r;
+}
+
+bool LineSegment::contains(int64_t x, int64_t y) const {
+    int64_t dx = static_cast<int64_t>(x2) - x1, dy = static_cast<int64_t>(y2) - y1;
+    int64_t adx = dx < 0 ? -dx : dx, ady = dy < 0 ? -dy : dy;
+    if (adx >= ady) {
+        int64_t i = dx < 0 ? x1 - x : x - x1;
+        return i >= 0 && i <= adx && minorAt(y1, dy, i, adx) == y;
+    }
+    int64_t i = dy < 0 ? y1 - y : y - y1;
+    return i >= 0 && i <= ady && minorAt(x1, dx, i, ady) == x;
+}
+
+int64_t stretchSource(int64_t d, int64_t destExtent, int64_t srcStart, int64_t srcExtent) {
+    int64_t n = destExtent < 0 ? -destExtent : destExtent;
+    if (n == 0) return srcStart;
+    if (destExtent < 0) d = n - 1 - d;
+    Wide num = (static_cast<Wide>(2) * d + 1) * srcExtent;
+    Wide den = static_cast<Wide>(2) * n;
+    Wide q = num / den;
+    if ((num % den != 0) && ((num < 0) != (den < 0))) --q;
+    return srcStart + static_cast<int64_t>(q);
+}
+
+} // namespace platform

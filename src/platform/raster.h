@@ -1,0 +1,97 @@
+#pragma once
+// Pixels, lines and stretching: the pixel maths under every picture box. Colours are
+// packed 0x00BBGGRR. Pictures are shared, immutable rasters: taking a box's Image
+// costs nothing until the box is drawn on again (copy on write in PictureBox).
+#include <cstdint>
+#include <memory>
+#include <vector>
+
+namespace platform {
+
+struct Raster {
+    Raster() = default;
+    Raster(int w, int h, uint32_t fill);
+    int width = 0;
+    int height = 0;
+    std::vector<uint32_t> px; // row by row, width * height
+
+    uint32_t at(int x, int y) const { return px[static_cast<std::size_t>(y) * width + x]; }
+    uint32_t& at(int x, int y) { return px[static_cast<std::size_t>(y) * width + x]; }
+};
+
+using PictureHandle = std::shared_ptr<const Raster>;
+
+// Half-open pixel rectangle.
+struct PixelRect {
+    int64_t x0 = 0, y0 = 0, x1 = 0, y1 = 0;
+    bool empty() const { return x1 <= x0 || y1 <= y0; }
+    bool contains(int64_t x, int64_t y) const { return x >= x0 && x < x1 && y >= y0 && y < y1; }
+    PixelRect intersect(const PixelRect& o) const;
+};
+
+// A line of pixels from (x1, y1) to (x2, y2), both ends included, one pixel per step
+// along the longer axis. contains() answers in constant time with the same rule that
+// forEach() draws by, so a view that keeps lines instead of pixels answers Point exactly.
+struct LineSegment {
+    int32_t x1 = 0, y1 = 0, x2 = 0, y2 = 0;
+
+    bool contains(int64_t x, int64_t y) const;
+    // Calls fn(x, y) for every pixel of the line inside clip, each once.
+    template <class F> void forEach(const PixelRect& clip, F&& fn) const;
+
+private:
+    // Minor coordinate at step i of n along the major axis.
+    static int64_t minorAt(int64_t start, int64_t delta, int64_t i, int64_t n);
+};
+
+// Where a stretched copy takes its pixels: destination pixel d (0-based within a
+// destination extent of |destExtent| pixels) maps to source pixel
+// srcStart + floor((2d + 1) * srcExtent / (2 |destExtent|)), mirrored when
+// destExtent is negative. Zooming by a whole factor k gives floor(d / k).
+int64_t stretchSource(int64_t d, int64_t destExtent, int64_t srcStart, int64_t srcExtent);
+
+// ---- inline template ----
+
+__extension__ typedef __int128 Wide; // products of two 32-bit coordinates and more
+
+inline int64_t LineSegment::minorAt(int64_t start, int64_t delta, int64_t i, int64_t n) {
+    if (n == 0) return start;
+    // Round i * delta / n to nearest, halves upward; 128-bit since both factors may be
+    // 32-bit coordinates.
+    Wide num = static_cast<Wide>(2) * i * delta + n;
+    Wide den = static_cast<Wide>(2) * n;
+    Wide q = num / den;
+    if ((num % den != 0) && ((num < 0) != (den < 0))) --q; // floor
+    return start + static_cast<int64_t>(q);
+}
+
+template <class F> void LineSegment::forEach(const PixelRect& clip, F&& fn) const {
+    int64_t dx = static_cast<int64_t>(x2) - x1, dy = static_cast<int64_t>(y2) - y1;
+    int64_t adx = dx < 0 ? -dx : dx, ady = dy < 0 ? -dy : dy;
+    if (adx >= ady) {
+        int64_t sx = dx < 0 ? -1 : 1;
+        // Steps i whose x lies in [clip.x0, clip.x1).
+        int64_t lo = sx > 0 ? clip.x0 - x1 : x1 - (clip.x1 - 1);
+        int64_t hi = sx > 0 ? clip.x1 - 1 - x1 : x1 - clip.x0;
+        if (lo < 0) lo = 0;
+        if (hi > adx) hi = adx;
+        for (int64_t i = lo; i <= hi; ++i) {
+            int64_t x = x1 + sx * i;
+            int64_t y = minorAt(y1, dy, i, adx);
+            if (y >= clip.y0 && y < clip.y1) fn(x, y);
+        }
+    } else {
+        int64_t sy = dy < 0 ? -1 : 1;
+        int64_t lo = sy > 0 ? clip.y0 - y1 : y1 - (clip.y1 - 1);
+        int64_t hi = sy > 0 ? clip.y1 - 1 - y1 : y1 - clip.y0;
+        if (lo < 0) lo = 0;
+        if (hi > ady) hi = ady;
+        for (int64_t i = lo; i <= hi; ++i) {
+            int64_t y = y1 + sy * i;
+            int64_t x = minorAt(x1, dx, i, ady);
+            if (x >= clip.x0 && x < clip.x1) fn(x, y);
+        }
+    }
+}
+
+} // namespace platform

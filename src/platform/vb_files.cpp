@@ -1,0 +1,155 @@
+#include "platform/vb_files.h"
+
+#include "platform/vb_error.h"
+
+#include <algorithm>
+#include <filesystem>
+#include <system_error>
+
+namespace vb {
+
+struct FileTable::OpenFile {
+    std::string path;
+    bool writing = false;
+    std::ifstream in;
+    int64_t length = 0;
+    bool eof = false;
+    std::vector<uint8_t> out; // what a writer has put, written at Close
+};
+
+FileTable::FileTable() : files_(kMaxNumber + 1) {}
+
+FileTable::~FileTable() {
+    try {
+        CloseAll();
+    } catch (...) {
+    }
+}
+
+FileTable::OpenFile& FileTable::file(int number) const {
+    if (number < 1 || number > kMaxNumber || !files_[static_cast<std::size_t>(number)])
+        raise(BadFileNameOrNumber);
+    return *files_[static_cast<std::size_t>(number)];
+}
+
+void FileTable::OpenForRead(int number, const std::string& path) {
+    if (number < 1 || number > kMaxNumber) raise(BadFileNameOrNumber);
+    auto& slot = files_[static_cast<std::size_t>(number)];
+    if (slot) raise(FileAlreadyOpen);
+    std::error_code ec;
+    if (path.empty() || !std::filesystem::is_regular_file(path, ec)) raise(FileNotFound);
+    auto f = std::make_unique<OpenFile>();
+    f->path = path;
+    f->in.open(path, std::ios::binary);
+    if (!f->in) raise(PathFileAccess);
+    f->length = static_cast<int64_t>(std::filesystem::file_size(path, ec));
+    if (ec) raise(PathFileAccess);
+    // An empty file is at its end before anything is read.
+    f->eof = f->length == 0;
+    slot = std::move(f);
+}
+
+void FileTable::OpenForWrite(int number, const std::string& path) {
+    if (number < 1 || number > kMaxNumber) raise(BadFileNameOrNumber);
+    auto& slot = files_[static_cast<std::size_t>(number)];
+    if (slot) raise(FileAlreadyOpen);
+    std::error_code ec;
+    if (path.empty() || std::filesystem::is_directory(path, ec)) raise(PathFileAccess);
+    auto f = std::make_unique<OpenFile>();
+    f->path = path;
+    f->writing = true;
+    if (std::filesystem::exists(path, ec)) {
+        // Open For Binary keeps what the file holds; Put overwrites in place.
+        std::ifstream old(path, std::ios::binary);
+        f->out.assign(std::istreambuf_iterator<char>(old), std::istreambuf_iterator<char>());
+    }
+    std::ofstream probe(path, std::ios::binary | std::ios::app);
+    if (!probe) raise(PathFileAccess);
+    slot = std::move(f);
+}
+
+void FileTable::Close(int number) {
+    auto& f = file(number);
+    std::unique_ptr<OpenFile> owned = std::move(files_[static_cast<std::size_t>(number)]);
+    if (f.writing) {
+        std::ofstream o(owned->path, std::ios::binary | std::ios::trunc);
+        o.write(reinterpret_cast<const char*>(owned->out.data()),
+                static_cast<std::streamsize>(owned->out.size()));
+        if (!o) raise(PathFileAccess);
+    }
+}
+
+void FileTable::CloseAll() {
+    bool failed = false;
+    for (int n = 1; n <= kMaxNumber; ++n) {
+        if (!files_[static_cast<std::size_t>(n)]) continue;
+        try {
+            Close(n);
+        } catch (const Error&) {
+            failed = true;
+        }
+    }
+    if (failed) raise(PathFileAccess);
+}
+
+int64_t FileTable::LOF(int number) const {
+    auto& f = file(number);
+    return f.writing ? static_cast<int64_t>(f.out.size()) : f.length;
+}
+
+bool FileTable::EOF_(int number) const { return file(number).eof; }
+
+std::size_t FileTable::read(int number, int64_t position, uint8_t* out, std::size_t count) {
+    auto& f = file(number);
+    if (position < 1) raise(BadRecordNumber);
+    if (f.writing) raise(BadFileMode);
+    int64_t start = position - 1;
+    std::size_t available =
+        start >= f.length ? 0 : static_cast<std::size_t>(std::min<int64_t>(f.length - start,
+                                                                           static_cast<int64_t>(count)));
+    if (available > 0) {
+        f.in.clear();
+        f.in.seekg(start);
+        f.in.read(reinterpret_cast<char*>(out), static_cast<std::streamsize>(available));
+        if (static_cast<std::size_t>(f.in.gcount()) != available) raise(PathFileAccess);
+    }
+    f.eof = available < count;
+    return available;
+}
+
+std::vector<uint8_t> FileTable::GetBytes(int number, int64_t position, std::size_t count) {
+    auto& f = file(number);
+    if (position < 1) raise(BadRecordNumber);
+    int64_t start = position - 1;
+    std::size_t available =
+        start >= f.length ? 0 : static_cast<std::size_t>(std::min<int64_t>(f.length - start,
+                                                                           static_cast<int64_t>(count)));
+    checkAllocation(available, 1);
+    std::vector<uint8_t> bytes(available);
+    read(number, position, bytes.data(), count > available ? available : count);
+    f.eof = available < count;
+    return bytes;
+}
+
+void FileTable::Put(int number, int64_t position, const uint8_t* bytes, std::size_t count) {
+    auto& f = file(number);
+    if (position < 1) raise(BadRecordNumber);
+    if (!f.writing) raise(BadFileMode);
+    auto start = static_cast<std::size_t>(position - 1);
+    checkAllocation(start + count, 1);
+    if (f.out.size() < start + count) f.out.resize(start + count, 0);
+    std::copy(bytes, bytes + count, f.out.begin() + static_cast<std::ptrdiff_t>(start));
+}
+
+void Kill(const std::string& path) {
+    std::error_code ec;
+    if (!std::filesystem::is_regular_file(path, ec)) raise(FileNotFound);
+    if (!std::filesystem::remove(path, ec) || ec) raise(PathFileAccess);
+}
+
+bool fileExists(const std::string& path) {
+    std::error_code ec;
+    return std::filesystem::is_regular_file(path, ec);
+}
+
+} // namespace vb

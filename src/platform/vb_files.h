@@ -1,0 +1,62 @@
+#pragma once
+// Files opened by number, as the runtime's Open/Get/Put/Close gave them. Positions are
+// 1-based. A read that runs past the end leaves its target unchanged and only then
+// does EOF turn true. Readers may take a whole range in one call (GetBytes) and decode
+// from memory; writers collect their bytes and the file is written once, at Close.
+#include <cstdint>
+#include <fstream>
+#include <memory>
+#include <string>
+#include <vector>
+
+namespace vb {
+
+class FileTable {
+public:
+    static constexpr int kMaxNumber = 255;
+
+    FileTable();
+    ~FileTable();
+    FileTable(const FileTable&) = delete;
+    FileTable& operator=(const FileTable&) = delete;
+
+    // Open path For Binary As #number, to read: the file must exist.
+    void OpenForRead(int number, const std::string& path);
+    // Open path For Binary As #number, to write: created when missing.
+    void OpenForWrite(int number, const std::string& path);
+
+    void Close(int number);
+    void CloseAll(); // Close with no number
+
+    int64_t LOF(int number) const;
+    bool EOF_(int number) const;
+
+    // Get #number, position, variable: little-endian, sizeof(T) bytes.
+    template <class T> void Get(int number, int64_t position, T& variable) {
+        uint8_t bytes[sizeof(T)];
+        if (read(number, position, bytes, sizeof(T)) < sizeof(T)) return;
+        uint64_t acc = 0;
+        for (std::size_t i = 0; i < sizeof(T); ++i) acc |= static_cast<uint64_t>(bytes[i]) << (8 * i);
+        variable = static_cast<T>(acc);
+    }
+
+    // The bytes from position on, up to count of them (fewer at the end of the file).
+    // Sets EOF like a Get that ran short when fewer came back.
+    std::vector<uint8_t> GetBytes(int number, int64_t position, std::size_t count);
+
+    // Put #number, position, bytes.
+    void Put(int number, int64_t position, const uint8_t* bytes, std::size_t count);
+
+private:
+    struct OpenFile;
+    OpenFile& file(int number) const;
+    std::size_t read(int number, int64_t position, uint8_t* out, std::size_t count);
+
+    std::vector<std::unique_ptr<OpenFile>> files_;
+};
+
+// Kill: deletes a file; FileNotFound when there is none.
+void Kill(const std::string& path);
+bool fileExists(const std::string& path);
+
+} // namespace vb

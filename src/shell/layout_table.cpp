@@ -1,0 +1,130 @@
+#include "shell/command_tables.h"
+
+namespace tavrin::shell {
+
+namespace {
+constexpr bool shown = true;
+constexpr bool hidden = false;
+} // namespace
+
+// Positions inside a panel count from the panel's top left corner. The floating bars
+// stand at their design places; Form_Resize moves some of them to the window's edge.
+const std::vector<ControlSpec>& controlTable() {
+    using F = FrmMain;
+    // clang-format off
+    static const std::vector<ControlSpec> table = {
+        // name          container    left   top    width  height caption  tool tip  visible  click
+        // ---- palette ----
+        {"SSPanel1",     "",          8730,  510,   3075,  4065, "", "", shown, nullptr},
+        {"SSPanel8",     "SSPanel1",  0,     0,     3075,  285,  " Palette", "", shown, nullptr},
+        {"SSCommand8",   "SSPanel1",  2790,  30,    255,   225,  "x", "Close", shown, &F::SSCommand8_Click},
+        {"Picture2",     "SSPanel1",  165,   375,   2700,  2700, "", "", shown, nullptr},
+        {"Label5",       "SSPanel1",  165,   3105,  600,   195,  "Red", "", shown, nullptr},
+        {"Label6",       "SSPanel1",  825,   3105,  600,   195,  "Green", "", shown, nullptr},
+        {"Label7",       "SSPanel1",  1485,  3105,  600,   195,  "Blue", "", shown, nullptr},
+        {"Text1",        "SSPanel1",  165,   3300,  600,   285,  "", "", shown, nullptr},
+        {"Text2",        "SSPanel1",  825,   3300,  600,   285,  "", "", shown, nullptr},
+        {"Text3",        "SSPanel1",  1485,  3300,  600,   285,  "", "", shown, nullptr},
+        {"Picture3",     "SSPanel1",  2145,  3105,  720,   480,  "", "Current Color", shown, nullptr},
+        {"Label9",       "SSPanel1",  165,   3705,  150,   195,  "X", "", shown, nullptr},
+        {"Text5",        "SSPanel1",  330,   3660,  555,   285,  "", "", shown, nullptr},
+        {"Label8",       "SSPanel1",  960,   3705,  150,   195,  "Y", "", shown, nullptr},
+        {"Text4",        "SSPanel1",  1125,  3660,  555,   285,  "", "", shown, nullptr},
+        {"Label10",      "SSPanel1",  1770,  3705,  420,   195,  "Mask", "", shown, nullptr},
+        {"Text6",        "SSPanel1",  2205,  3660,  420,   285,  "Off", "", shown, nullptr},
+        {"Picture15",    "SSPanel1",  2670,  3660,  195,   285,  "", "Picked Color", shown, nullptr},
+        // The colour mask flag, shown only while the right button is held on the palette.
+        {"SSPanel4",     "",          7200,  510,   1455,  555,  "", "", hidden, nullptr},
+        {"Picture24",    "SSPanel4",  60,    60,    435,   435,  "", "", shown, nullptr},
+        {"Label2",       "SSPanel4",  555,   165,   855,   225,  "Mask Off", "", shown, nullptr},
+        // ---- tool bar ----
+        {"SSPanel13",    "",          9495,  4650,  2205,  2925, "", "", shown, nullptr},
+        {"SSPanel14",    "SSPanel13", 0,     0,     2205,  285,  "Tool Bar", "", shown, nullptr},
+        {"SSCommand27",  "SSPanel13", 1920,  30,    255,   225,  "x", "Close", shown, &F::SSCommand27_Click},
+        {"SSCommand4",   "SSPanel13", 180,   390,   435,   405,  "", "Pencil (Pixel)", shown, nullptr},
+        {"SSCommand12",  "SSPanel13", 630,   390,   435,   405,  "", "Paint-Brush ", shown, nullptr},
+        {"SSCommand13",  "SSPanel13", 1080,  390,   435,   405,  "", "Air-Brush", shown, nullptr},
+        {"SSCommand16",  "SSPanel13", 1530,  390,   435,   405,  "", "Blur", shown, nullptr},
+        {"SSCommand15",  "SSPanel13", 180,   810,   435,   405,  "", "Mask/Color Replace", shown, nullptr},
+        {"SSCommand14",  "SSPanel13", 630,   810,   435,   405,  "", "Eye-Dropper", shown, nullptr},
+        {"SSCommand28",  "SSPanel13", 1080,  810,   435,   405,  "", "Rectangle", shown, nullptr},
+        {"SSCommand29",  "SSPanel13", 1530,  810,   435,   405,  "", "Filled Rectangle", shown, nullptr},
+        {"SSCommand19",  "SSPanel13", 180,   1230,  435,   405,  "", "Zoom", shown, nullptr},
+        {"SSCommand21",  "SSPanel13", 630,   1230,  435,   405,  "", "Pan Some", shown, nullptr},
+        {"SSCommand22",  "SSPanel13", 1080,  1230,  435,   405,  "", "Pan Alot", shown, nullptr},
+        {"SSCommand18",  "SSPanel13", 1530,  1230,  435,   405,  "", "Line", shown, nullptr},
+        {"SSCommand23",  "SSPanel13", 180,   1650,  435,   405,  "", "Left", shown, nullptr},
+        {"SSCommand24",  "SSPanel13", 630,   1650,  435,   405,  "", "Right", shown, nullptr},
+        {"SSCommand25",  "SSPanel13", 1080,  1650,  435,   405,  "", "Up", shown, nullptr},
+        {"SSCommand26",  "SSPanel13", 1530,  1650,  435,   405,  "", "Down", shown, nullptr},
+        {"SSCommand17",  "SSPanel13", 180,   2070,  435,   405,  "", "Smudge", shown, nullptr},
+        {"SSCommand20",  "SSPanel13", 630,   2070,  435,   405,  "", "Text", shown, nullptr},
+        {"SSCommand34",  "SSPanel13", 2400,  390,   435,   405,  "", "", hidden, nullptr},
+        {"SSCommand35",  "SSPanel13", 2400,  810,   435,   405,  "", "", hidden, nullptr},
+        {"SSPanel3",     "SSPanel13", 195,   2535,  1785,  285,  "Zoom", "", shown, nullptr},
+        // The brush kinds, placed next to the tool bar when the paint brush is chosen.
+        {"SSPanel2",     "",          9915,  5220,  780,   750,  "", "", hidden, nullptr},
+        {"SSCommand30",  "SSPanel2",  15,    15,    375,   360,  "Solid", "", shown, nullptr},
+        {"SSCommand31",  "SSPanel2",  390,   15,    375,   360,  "Dark", "", shown, nullptr},
+        {"SSCommand32",  "SSPanel2",  15,    375,   375,   360,  "Light", "", shown, nullptr},
+        {"SSCommand33",  "SSPanel2",  390,   375,   375,   360,  "Tint", "", shown, nullptr},
+        // ---- filter bar ----
+        {"SSPanel15",    "",          60,    7140,  5295,  825,  "", "", shown, nullptr},
+        {"Picture14",    "SSPanel15", 45,    60,    135,   705,  "", "", shown, nullptr},
+        {"SSCommand43",  "SSPanel15", 225,   75,    765,   675,  "Diffuse", "", shown, nullptr},
+        {"SSCommand37",  "SSPanel15", 990,   75,    765,   675,  "Lighten", "", shown, nullptr},
+        {"SSCommand40",  "SSPanel15", 1755,  75,    765,   675,  "Sharpen", "", shown, nullptr},
+        {"SSCommand41",  "SSPanel15", 2520,  75,    765,   675,  "Blur", "", shown, nullptr},
+        {"SSCommand36",  "SSPanel15", 3285,  75,    765,   675,  "Tint ", "", shown, nullptr},
+        {"SSCommand38",  "SSPanel15", 4050,  75,    765,   675,  "Emboss", "", shown, nullptr},
+        {"SSCommand42",  "SSPanel15", 4965,  60,    255,   225,  "x", "Close", shown, &F::SSCommand42_Click},
+        // ---- actual pixels ----
+        {"SSPanel11",    "",          240,   510,   4125,  2865, "", "", hidden, nullptr},
+        {"SSPanel12",    "SSPanel11", 0,     0,     4050,  285,  " Actual Pixels", "", shown, nullptr},
+        {"SSCommand11",  "SSPanel11", 3775,  30,    255,   225,  "x", "Close", shown, &F::SSCommand11_Click},
+        {"picture1",     "SSPanel11", 45,    360,   4005,  2445, "", "", hidden, nullptr},
+        // ---- colour replace and mask ----
+        {"SSPanel7",     "",          1020,  4290,  4095,  4095, "", "", hidden, nullptr},
+        {"SSPanel9",     "SSPanel7",  0,     0,     4095,  285,  "  Color Replace/ Pixel Color Mask", "", shown, nullptr},
+        {"SSCommand9",   "SSPanel7",  3810,  30,    255,   225,  "x", "Close", shown, &F::SSCommand9_Click},
+        {"SSCommand5",   "SSPanel7",  240,   3540,  1695,  405,  "Original Color", "", shown, nullptr},
+        {"SSCommand6",   "SSPanel7",  2160,  3540,  1695,  405,  "Current Color", "", shown, nullptr},
+        {"SSPanel6",     "",          3000,  3600,  4500,  615,  "", "", hidden, nullptr},
+        {"ProgressBar1", "SSPanel6",  120,   300,   4260,  225,  "", "", shown, nullptr},
+        // ---- tint value ----
+        {"SSPanel16",    "",          4920,  1140,  855,   1365, "", "", hidden, nullptr},
+        {"SSPanel17",    "SSPanel16", 0,     0,     855,   285,  "Tint", "", shown, nullptr},
+        {"SSCommand39",  "SSPanel16", 585,   30,    240,   225,  "x", "Close", shown, nullptr},
+        {"Slider1",      "SSPanel16", 60,    360,   255,   960,  "", "", shown, nullptr},
+        {"Picture13",    "SSPanel16", 375,   480,   420,   720,  "", "", shown, nullptr},
+        {"Picture8",     "SSPanel16", 1000,  480,   420,   720,  "", "", shown, nullptr},
+        {"Picture9",     "SSPanel16", 1500,  480,   420,   720,  "", "", shown, nullptr},
+        {"Picture10",    "SSPanel16", 2000,  480,   420,   720,  "", "", shown, nullptr},
+        {"Picture11",    "SSPanel16", 2500,  480,   420,   720,  "", "", shown, nullptr},
+        {"Picture12",    "SSPanel16", 3000,  480,   420,   720,  "", "", shown, nullptr},
+        // ---- text tool ----
+        {"SSPanel5",     "",          5295,  4680,  4035,  3300, "", "", hidden, nullptr},
+        {"SSPanel10",    "SSPanel5",  0,     0,     4035,  285,  " Text Tool", "", shown, nullptr},
+        {"SSCommand10",  "SSPanel5",  3750,  30,    255,   225,  "x", "Close", shown, nullptr},
+        {"Text7",        "SSPanel5",  120,   390,   3795,  285,  "", "", shown, nullptr},
+        {"Picture25",    "SSPanel5",  120,   780,   3495,  1800, "", "", shown, nullptr},
+        {"Picture26",    "SSPanel5",  120,   780,   3495,  1800, "", "", hidden, nullptr},
+        {"Picture16",    "SSPanel5",  120,   780,   3495,  1800, "", "", hidden, nullptr},
+        {"SSCommand2",   "SSPanel5",  120,   2760,  1215,  405,  "&Apply", "", shown, nullptr},
+        {"SSCommand3",   "SSPanel5",  1410,  2760,  1215,  405,  "&Mirror", "", shown, nullptr},
+        {"SSCommand1",   "SSPanel5",  2700,  2760,  1215,  405,  "&Close", "", shown, nullptr},
+        // ---- straight on the window ----
+        {"Picture7",     "",          0,     0,     4005,  2445, "", "", hidden, nullptr},
+        {"Picture4",     "",          0,     0,     4005,  2445, "", "", hidden, nullptr},
+        {"Picture5",     "",          0,     0,     4005,  2445, "", "", hidden, nullptr},
+        {"Picture6",     "",          0,     0,     4005,  2445, "", "", hidden, nullptr},
+        {"Label1",       "",          0,     0,     0,     0,    "", "", hidden, nullptr},
+        {"CommonDialog1", "",         0,     0,     0,     0,    "", "", hidden, nullptr},
+        {"tbToolBar",    "",          0,     0,     0,     420,  "", "", shown, nullptr},
+        {"StatusBar1",   "",          0,     0,     0,     330,  "", "", shown, nullptr},
+    };
+    // clang-format on
+    return table;
+}
+
+} // namespace tavrin::shell

@@ -1,0 +1,129 @@
+#include "shell/command_tables.h"
+
+namespace tavrin::shell {
+
+namespace {
+// Shorthands that keep one item to one line.
+constexpr bool on = true;
+constexpr bool off = false;
+} // namespace
+
+const std::vector<MenuSpec>& menuTable() {
+    using F = FrmMain;
+    // clang-format off
+    static const std::vector<MenuSpec> table = {
+        // item            lvl caption                              shortcut  checked visible enabled handler
+        {&F::File,          0, "&File",                              "",       off, on,  on,  nullptr},
+        {&F::NewSkin,       1, "&New Skin",                          "",       off, on,  on,  nullptr},
+        {&F::im,            1, "&Open Skin",                         "",       off, on,  on,  nullptr},
+        {&F::pcxIm,         2, "&PCX File",                          "",       off, on,  on,  nullptr},
+        {&F::MD2Im,         2, "&MD2 File",                          "",       off, off, off, nullptr},
+        {&F::OpenSkin,      2, "&Import Image",                      "",       off, off, off, nullptr},
+        {&F::space,         1, "-",                                  "",       off, on,  on,  nullptr},
+        {&F::IP,            1, "&Import Palette",                    "",       off, on,  on,  nullptr},
+        {&F::ACT,           2, "&ACT Color Table (Adobe)",           "",       off, on,  on,  nullptr},
+        {&F::PAL2,          2, "&PAL palette (Paint Shop Pro )",     "",       off, on,  on,  nullptr},
+        {&F::space1,        1, "-",                                  "",       off, on,  on,  nullptr},
+        {&F::ex,            1, "&Save Skin",                         "",       off, on,  on,  nullptr},
+        {&F::SKas,          1, "&Save Skin As",                      "",       off, on,  on,  nullptr},
+        {&F::s1,            1, "-",                                  "",       off, on,  on,  nullptr},
+        {&F::p,             1, "&Print",                             "",       off, on,  on,  nullptr},
+        {&F::pP,            1, "&Print Preview",                     "",       off, on,  on,  nullptr},
+        {&F::psss,          1, "&Print Setup",                       "",       off, on,  on,  nullptr},
+        {&F::space2,        1, "-",                                  "",       off, on,  on,  nullptr},
+        {&F::Exit,          1, "&Exit",                              "",       off, on,  on,  &F::Exit_Click},
+        {&F::Edfit,         0, "&Edit",                              "",       off, on,  on,  nullptr},
+        {&F::Undo,          1, "&Undo",                              "Ctrl+Z", off, on,  on,  nullptr},
+        {&F::s2,            1, "-",                                  "",       off, on,  on,  nullptr},
+        {&F::ri,            1, "&Refresh Image",                     "Ctrl+I", off, on,  on,  nullptr},
+        {&F::V,             0, "&View",                              "",       off, on,  on,  nullptr},
+        {&F::PALE,          1, "&Palette",                           "",       on,  on,  on,  &F::PALE_Click},
+        {&F::ActualPixels,  1, "&Actual Pixels",                     "",       off, on,  on,  nullptr},
+        {&F::Mask,          1, "&Mask",                              "",       off, on,  on,  nullptr},
+        {&F::ToolBar,       1, "&Tool Bar",                          "",       on,  on,  on,  &F::ToolBar_Click},
+        {&F::fil,           1, "&Filter Bar",                        "",       on,  on,  on,  &F::fil_Click},
+        {&F::s3,            1, "-",                                  "",       off, on,  on,  nullptr},
+        {&F::wF,            1, "&Wire Frame",                        "Ctrl+W", off, on,  on,  nullptr},
+        {&F::UCW,           1, "&Unload Current Wireframe",          "",       off, on,  on,  nullptr},
+        {&F::tools,         0, "&Tools",                             "",       off, on,  on,  nullptr},
+        {&F::mZoom,         1, "&Zoom",                              "Ctrl+Q", off, on,  on,  nullptr},
+        {&F::Eye,           1, "&Eye-Dropper",                       "Ctrl+E", off, on,  on,  nullptr},
+        {&F::pEdit,         1, "&Pixel Edit",                        "Ctrl+A", off, on,  on,  nullptr},
+        {&F::mLine,         1, "&Line",                              "Ctrl+L", off, off, off, nullptr},
+        {&F::mFill,         1, "&Fill",                              "Ctrl+F", off, off, off, nullptr},
+        {&F::mRect,         1, "&Rectangle",                         "",       off, on,  on,  nullptr},
+        {&F::mFrect,        1, "Re&ctangle Fill",                    "Ctrl+R", off, on,  on,  nullptr},
+        {&F::Grf,           1, "&Gradient Rectangle Fill",           "Ctrl+G", off, on,  on,  nullptr},
+        {&F::Filter,        0, "&Filters",                           "",       off, on,  on,  nullptr},
+        {&F::Masked,        1, "&Masked Image ",                     "",       off, on,  on,  nullptr},
+        {&F::Tint,          1, "&Tint",                              "",       off, on,  on,  nullptr},
+        {&F::Lightt,        1, "&Lighten Image",                     "",       off, on,  on,  nullptr},
+        {&F::Emboss,        1, "&Emboss",                            "",       off, on,  on,  nullptr},
+        {&F::Blur,          1, "&Blur",                              "",       off, on,  on,  nullptr},
+        {&F::Sharpen,       1, "&Sharpen",                           "",       off, on,  on,  nullptr},
+        {&F::Diffuse,       1, "&Diffuse",                           "",       off, on,  on,  nullptr},
+        {&F::Brush,         0, "&Brushes",                           "",       off, on,  on,  nullptr},
+        {&F::Pbrush,        1, "&Paint Brush",                       "Ctrl+P", off, on,  on,  nullptr},
+        {&F::AirBrush,      1, "&Air Brush",                         "Ctrl+X", off, on,  on,  nullptr},
+        {&F::BlurBrush,     1, "&Blur Brush",                        "Ctrl+B", off, on,  on,  nullptr},
+        {&F::tnnt,          1, "&Tint Brush",                        "Ctrl+T", off, on,  on,  nullptr},
+        {&F::cOption,       0, "&Options",                           "",       off, on,  on,  nullptr},
+        {&F::bSize,         1, "&Brush Size",                        "",       off, on,  on,  nullptr},
+        {&F::p1,            2, "&1 Pixels",                          "",       off, on,  on,  nullptr},
+        {&F::p9,            2, "&9 Pixels",                          "",       on,  on,  on,  nullptr},
+        {&F::tValue,        1, "&Tint Value",                        "",       off, on,  on,  nullptr},
+        {&F::cer1,          1, "-",                                  "",       off, on,  on,  nullptr},
+        {&F::gf,            1, "&Gradient Fill",                     "",       off, on,  on,  nullptr},
+        {&F::gd,            2, "&Dark",                              "",       off, on,  on,  nullptr},
+        {&F::gl,            2, "&Light",                             "",       on,  on,  on,  nullptr},
+        {&F::s4,            1, "-",                                  "",       off, on,  on,  nullptr},
+        {&F::wFc,           1, "&Wire Frame Color",                  "",       off, on,  on,  nullptr},
+        {&F::bcolor,        1, "&Background Color",                  "",       off, on,  on,  nullptr},
+        {&F::s9,            1, "-",                                  "",       off, on,  on,  nullptr},
+        {&F::ia,            1, "&Image Attributes",                  "",       off, on,  on,  nullptr},
+        {&F::ma,            1, "&Model Attributes",                  "",       off, on,  on,  nullptr},
+        {&F::Mode,          0, "&Mode",                              "",       off, off, on,  nullptr},
+        {&F::Cl256,         1, "&Edit in 256 Color ",                "",       on,  on,  off, nullptr},
+        {&F::CLhigh,        1, "&Edit in High-Color",                "",       off, on,  off, nullptr},
+        {&F::HelpMe,        0, "&Help",                              "",       off, on,  on,  nullptr},
+        {&F::H,             1, "&Help",                              "",       off, on,  on,  nullptr},
+        {&F::About,         1, "&About",                             "",       off, on,  on,  nullptr},
+        // The canvas's popup menu: hidden from the bar, opened by the right button.
+        {&F::Pop,           0, "Popup",                              "",       off, off, on,  nullptr},
+        {&F::zPop,          1, "Zoom",                               "",       off, on,  on,  nullptr},
+        {&F::spacer11,      1, "-",                                  "",       off, on,  on,  nullptr},
+        {&F::ePop,          1, "Eye-Dropper",                        "",       off, on,  on,  nullptr},
+        {&F::aPop,          1, "Air-Brush",                          "",       off, on,  on,  nullptr},
+        {&F::bPop,          1, "Blur-Brush",                         "",       off, on,  on,  nullptr},
+        {&F::tPop,          1, "Tint-Brush",                         "",       off, on,  on,  nullptr},
+        {&F::pnPop,         1, "Paintbrush",                         "",       off, on,  on,  nullptr},
+        {&F::pPop,          1, "Pencil",                             "",       off, on,  on,  nullptr},
+        {&F::bsPop,         1, "Brush Size",                         "",       off, on,  on,  nullptr},
+        {&F::Pop1,          2, "1 Pixels",                           "",       off, on,  on,  nullptr},
+        {&F::Pop9,          2, "9 Pixels",                           "",       off, on,  on,  nullptr},
+        {&F::spacer10,      1, "-",                                  "",       off, on,  on,  nullptr},
+        {&F::difPop,        1, "Diffuse",                            "",       off, on,  on,  nullptr},
+        {&F::blPop,         1, "Blur",                               "",       off, on,  on,  nullptr},
+        {&F::emPop,         1, "Emboss",                             "",       off, on,  on,  nullptr},
+        {&F::tiPop,         1, "Tint",                               "",       off, on,  on,  nullptr},
+        {&F::liPop,         1, "Lighten",                            "",       off, on,  on,  nullptr},
+        {&F::shPop,         1, "Sharpen",                            "",       off, on,  on,  nullptr},
+        {&F::spacer12,      1, "-",                                  "",       off, on,  on,  nullptr},
+        {&F::wiPop,         1, "Wireframe",                          "",       off, on,  on,  nullptr},
+    };
+    // clang-format on
+    return table;
+}
+
+const std::vector<ToolbarSpec>& toolbarTable() {
+    static const std::vector<ToolbarSpec> table = {
+        {"New", "New Skin"},   {"Open", "Open Skin"}, {"Save", "Save Skin"},
+        {"", ""},              {"Print", "Print Skin"}, {"", ""},
+        {"Cut", "Cut"},        {"Copy", "Copy"},      {"Paste", "Paste"},
+        {"", ""},              {"Bold", "Bold"},      {"Italic", "Italic"},
+        {"Underline", "Underline"}, {"", ""},         {"Font", "Change/Select Font"},
+    };
+    return table;
+}
+
+} // namespace tavrin::shell
