@@ -1,0 +1,199 @@
+// What the editor relies on from a picture box: Point, PSet, the three kinds of Line,
+// the XOR pen, stretching, pictures as snapshots, and the canvas that keeps no pixels.
+#include "platform/form.h"
+#include "platform/picture_box.h"
+#include "platform/vb_error.h"
+
+#include <gtest/gtest.h>
+
+#include <array>
+#include <memory>
+
+namespace {
+
+using platform::PictureBox;
+
+constexpr int32_t kRed = 0x0000FF;
+constexpr int32_t kGreen = 0x00FF00;
+constexpr int32_t kGrey = 0x808080;
+
+// A form with one box of w x h pixels inside its border.
+struct Box {
+    Box(int w, int h, bool autoRedraw = true, int border = 0,
+        platform::ScaleUnit unit = platform::ScaleUnit::Pixels)
+        : box(&form, "Box", PictureBox::Design{unit, border, autoRedraw, kGrey}) {
+        box.Width = (w + border) * 15;
+        box.Height = (h + border) * 15;
+    }
+    platform::Form form{"frmTest"};
+    PictureBox box;
+};
+
+// A w x h picture whose pixel (x, y) is x + 16 y.
+platform::PictureHandle numbered(int w, int h) {
+    auto r = std::make_shared<platform::Raster>(w, h, 0u);
+    for (int y = 0; y < h; ++y)
+        for (int x = 0; x < w; ++x) r->at(x, y) = static_cast<uint32_t>(x + 16 * y);
+    return r;
+}
+
+TEST(PictureBox, PointIsMinusOneOutsideTheInnerAreaAndPSetThereChangesNothing) {
+    Box b(6, 4, true, 4);
+    PictureBox& p = b.box;
+    EXPECT_EQ(p.innerWidth(), 6);
+    EXPECT_EQ(p.ScaleWidth, 6);
+    EXPECT_EQ(p.Point(0, 0), kGrey);
+    EXPECT_EQ(p.Point(5, 3), kGrey);
+    EXPECT_EQ(p.Point(6, 0), -1);
+    EXPECT_EQ(p.Point(0, 4), -1);
+    EXPECT_EQ(p.Point(-1, 2), -1);
+
+    auto before = p.Image();
+    p.PSet(6, 0, kRed);
+    p.PSet(-1, -1, kRed);
+    p.Line(-5, -5, -1, -1, kRed, platform::kLineKind);
+    EXPECT_EQ(p.Image()->px, before->px);
+
+    p.PSet(2, 1, kRed);
+    EXPECT_EQ(p.Point(2, 1), kRed);
+    p.PSet(3, 1, 0x2000000 | kGreen); // a palette-relative colour draws its low 24 bits
+    EXPECT_EQ(p.Point(3, 1), kGreen);
+}
+
+TEST(PictureBox, LineDrawsALineABoxOrAFilledBoxBothEndsIncluded) {
+    Box b(8, 8);
+    PictureBox& p = b.box;
+    p.Line(1, 1, 4, 4, kRed, platform::kLineKind);
+    for (int i = 1; i <= 4; ++i) EXPECT_EQ(p.Point(i, i), kRed) << i;
+    EXPECT_EQ(p.Point(5, 5), kGrey);
+    EXPECT_EQ(p.Point(2, 1), kGrey);
+
+    p.Cls();
+    p.Line(5, 6, 1, 2, kRed, platform::kBoxKind); // corners in any order
+    for (int i = 1; i <= 5; ++i) {
+        EXPECT_EQ(p.Point(i, 2), kRed);
+        EXPECT_EQ(p.Point(i, 6), kRed);
+    }
+    for (int j = 2; j <= 6; ++j) {
+        EXPECT_EQ(p.Point(1, j), kRed);
+        EXPECT_EQ(p.Point(5, j), kRed);
+    }
+    EXPECT_EQ(p.Point(3, 4), kGrey);
+    EXPECT_EQ(p.Point(6, 2), kGrey);
+
+    p.Line(2, 3, 3, 4, kGreen, platform::kFilledBoxKind);
+    EXPECT_EQ(p.Point(2, 3), kGreen);
+    EXPECT_EQ(p.Point(3, 4), kGreen);
+    EXPECT_EQ(p.Point(4, 4), kGrey);
+    EXPECT_EQ(p.Point(2, 5), kGrey);
+}
+
+TEST(PictureBox, TheXorPenTakesAwayWhatItDrewTheSecondTime) {
+    Box b(12, 10);
+    PictureBox& p = b.box;
+    p.Line(0, 0, 11, 9, kRed, platform::kFilledBoxKind);
+    p.PSet(4, 4, kGreen);
+    auto before = p.Image();
+
+    p.DrawMode = platform::kXorPen;
+    const int kinds[] = {platform::kLineKind, platform::kBoxKind, platform::kFilledBoxKind};
+    for (int kind : kinds) {
+        // A one-pixel-high box and a thin one too: no pixel of the outline may be drawn twice.
+        for (auto [x1, y1, x2, y2] : {std::array{1, 1, 9, 7}, std::array{2, 5, 8, 5},
+                                      std::array{3, 2, 4, 8}, std::array{-3, 4, 20, 6}}) {
+            p.Line(x1, y1, x2, y2, 0xFFFFFF, kind);
+            EXPECT_NE(p.Image()->px, before->px) << kind;
+            p.Line(x1, y1, x2, y2, 0xFFFFFF, kind);
+            EXPECT_EQ(p.Image()->px, before->px) << kind << " " << x1 << "," << y1;
+        }
+    }
+    p.DrawMode = platform::kCopyPen;
+    p.PSet(4, 4, kRed);
+    EXPECT_EQ(p.Point(4, 4), kRed);
+}
+
+TEST(PictureBox, PaintPictureStretchesTheWholeImageOverTheRectangle) {
+    Box b(9, 6);
+    PictureBox& p = b.box;
+    p.PaintPicture(numbered(3, 2), 0, 0, 9, 6); // three times larger each way
+    for (int y = 0; y < 6; ++y)
+        for (int x = 0; x < 9; ++x) EXPECT_EQ(p.Point(x, y), x / 3 + 16 * (y / 3)) << x << "," << y;
+
+    p.Cls();
+    p.PaintPicture(numbered(3, 2), 2, 1, 3, 2); // true size, offset
+    EXPECT_EQ(p.Point(1, 1), kGrey);
+    EXPECT_EQ(p.Point(2, 1), 0);
+    EXPECT_EQ(p.Point(4, 2), 2 + 16);
+    EXPECT_EQ(p.Point(5, 2), kGrey);
+
+    EXPECT_THROW(p.PaintPicture(nullptr, 0, 0, 1, 1), vb::Error);
+}
+
+TEST(PictureBox, ImageIsASnapshotAndPictureCopiesItIntoAnotherBox) {
+    Box a(4, 4), c(4, 4);
+    a.box.PSet(1, 1, kRed);
+    platform::PictureHandle snap = a.box.Image();
+    a.box.PSet(2, 2, kGreen); // drawing afterwards leaves the snapshot alone
+    EXPECT_EQ(snap->at(1, 1), static_cast<uint32_t>(kRed));
+    EXPECT_EQ(snap->at(2, 2), static_cast<uint32_t>(kGrey));
+
+    c.box.Picture = snap;
+    EXPECT_EQ(c.box.Point(1, 1), kRed);
+    c.box.PSet(0, 0, kGreen);
+    c.box.Cls(); // clears the drawing, not the stored picture
+    EXPECT_EQ(c.box.Point(0, 0), kGrey);
+    EXPECT_EQ(c.box.Point(1, 1), kRed);
+    c.box.Picture = platform::PictureHandle{};
+    EXPECT_EQ(c.box.Point(1, 1), kGrey);
+
+    c.box.BackColor = kGreen; // a new back colour clears the box to it
+    EXPECT_EQ(c.box.Point(3, 3), kGreen);
+}
+
+TEST(PictureBox, ATwipsBoxTakesFifteenUnitsToThePixel) {
+    Box b(10, 10, true, 2, platform::ScaleUnit::Twips);
+    EXPECT_EQ(b.box.ScaleWidth, 150);
+    b.box.PSet(30, 45, kRed);
+    EXPECT_EQ(b.box.Point(30, 45), kRed);
+    EXPECT_EQ(b.box.Image()->at(2, 3), static_cast<uint32_t>(kRed));
+    EXPECT_EQ(b.box.Point(150, 0), -1);
+}
+
+TEST(PictureBox, AHugeSizeIsRefusedWithoutAllocating) {
+    Box b(4, 4);
+    b.box.Width = 20000 * 15;
+    EXPECT_THROW(b.box.Height = 20000 * 15, vb::Error); // 1.6 GB of pixels
+    EXPECT_EQ(b.box.innerHeight(), 4);
+    EXPECT_EQ(b.box.Point(19999, 3), kGrey);
+}
+
+// The canvas keeps what was painted, not pixels: its Point must answer exactly what a
+// box with pixels would show after the same drawing.
+TEST(PictureBox, ACanvasWithoutAutoRedrawAnswersPointFromWhatWasPainted) {
+    Box canvas(40, 30, false), raster(40, 30, true);
+    EXPECT_EQ(canvas.box.Point(5, 5), kGrey);
+    for (Box* b : {&canvas, &raster}) {
+        b->box.PaintPicture(numbered(7, 5), 0, 0, 40, 30); // not a whole factor
+        b->box.PaintPicture(numbered(3, 3), 30, 20, -9, -9); // mirrored
+        const int lines[][4] = {{0, 0, 39, 29}, {39, 0, 0, 13}, {5, -10, 9, 60},
+                                {-20, 25, 70, 27}, {12, 3, 12, 3}, {33, 29, 2, 1}};
+        for (const auto& l : lines) b->box.Line(l[0], l[1], l[2], l[3], kRed, platform::kLineKind);
+        b->box.Line(20, 2, 25, 6, kGreen, platform::kBoxKind);
+        b->box.Line(26, 8, 28, 9, kGreen, platform::kFilledBoxKind);
+        b->box.PSet(1, 28, kGreen);
+    }
+    platform::PictureHandle shown = canvas.box.Image();
+    for (int y = -1; y <= 30; ++y)
+        for (int x = -1; x <= 40; ++x) {
+            ASSERT_EQ(canvas.box.Point(x, y), raster.box.Point(x, y)) << x << "," << y;
+            if (x >= 0 && y >= 0 && x < 40 && y < 30) {
+                ASSERT_EQ(shown->at(x, y), static_cast<uint32_t>(raster.box.Point(x, y)));
+            }
+        }
+
+    canvas.box.Refresh(); // what was drawn on the canvas is gone
+    EXPECT_EQ(canvas.box.Point(0, 0), kGrey);
+    EXPECT_EQ(canvas.box.Point(1, 28), kGrey);
+}
+
+} // namespace

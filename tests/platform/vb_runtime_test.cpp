@@ -1,0 +1,204 @@
+// The runtime's numbers, checked arrays, files by number and dynamic values: the rules
+// every reader and tool leans on.
+#include "platform/variant.h"
+#include "platform/vb_array.h"
+#include "platform/vb_error.h"
+#include "platform/vb_files.h"
+#include "platform/vb_numeric.h"
+#include "support/test_support.h"
+
+#include <gtest/gtest.h>
+
+#include <limits>
+
+namespace {
+
+using tavrin::test::Bytes;
+using tavrin::test::TempDir;
+
+// The number of the vb::Error that fn raises, or 0 if it raises none.
+template <class F> int errorOf(F&& fn) {
+    try {
+        fn();
+    } catch (const vb::Error& e) {
+        return e.number();
+    }
+    return 0;
+}
+
+TEST(VbNumeric, ConversionsRoundHalfToEvenAndOverflowOutsideTheirRange) {
+    EXPECT_EQ(vb::CInt(0.5), 0);
+    EXPECT_EQ(vb::CInt(1.5), 2);
+    EXPECT_EQ(vb::CInt(2.5), 2);
+    EXPECT_EQ(vb::CInt(-2.5), -2);
+    EXPECT_EQ(vb::CInt(-3.5), -4);
+    EXPECT_EQ(vb::CInt(2.5000001), 3);
+    EXPECT_EQ(vb::CInt(32767.4), 32767);
+    EXPECT_EQ(vb::CInt(-32768.5), -32768); // rounds to even, so it still fits
+    EXPECT_EQ(errorOf([] { vb::CInt(32767.5); }), vb::Overflow);
+    EXPECT_EQ(errorOf([] { vb::CInt(-32769); }), vb::Overflow);
+    EXPECT_EQ(errorOf([] { vb::CInt(std::numeric_limits<double>::quiet_NaN()); }), vb::Overflow);
+
+    EXPECT_EQ(vb::CLng(1e9 + 0.5), 1000000000);
+    EXPECT_EQ(vb::CLng(-2147483648.5), INT32_MIN);
+    EXPECT_EQ(errorOf([] { vb::CLng(2147483647.5); }), vb::Overflow);
+    EXPECT_EQ(errorOf([] { vb::CLng(1e300); }), vb::Overflow);
+    EXPECT_EQ(errorOf([] { vb::CByte(255.5); }), vb::Overflow);
+    EXPECT_EQ(errorOf([] { vb::CByte(-0.6); }), vb::Overflow);
+
+    EXPECT_EQ(vb::wrap16(32767 + 1), -32768);
+    EXPECT_EQ(vb::wrap16(-32768 - 1), 32767);
+    EXPECT_EQ(vb::Int(-0.5), -1);
+}
+
+TEST(VbNumeric, PackedColoursSplitAndJoinAsTheEditorDoes) {
+    EXPECT_EQ(vb::RGB(1, 2, 3), 0x030201);
+    EXPECT_EQ(vb::RGB(300, 255.5, 0), 0x00FFFF); // above 255 counts as 255
+    EXPECT_EQ(errorOf([] { vb::RGB(-1, 0, 0); }), vb::InvalidCall);
+
+    EXPECT_EQ(vb::redOf(0x123456), 0x56);
+    EXPECT_EQ(vb::greenOf(0x123456), 0x34);
+    EXPECT_EQ(vb::blueOf(0x123456), 0x12);
+    // What Point gives outside a picture splits into parts that are no bytes.
+    EXPECT_EQ(vb::redOf(-1), -1);
+    EXPECT_EQ(vb::greenOf(-1), -65281);
+    EXPECT_EQ(vb::blueOf(-1), 255);
+}
+
+TEST(VbArray, EveryAccessOutsideTheBoundsOrBeforeAllocationIsSubscriptOutOfRange) {
+    vb::Array<int16_t> a;
+    EXPECT_FALSE(a.allocated());
+    EXPECT_EQ(errorOf([&] { a(0); }), vb::SubscriptOutOfRange);
+    EXPECT_EQ(errorOf([&] { a.UBound(); }), vb::SubscriptOutOfRange);
+
+    a.ReDim(-2, 5);
+    a(-2) = 7;
+    a(5) = 9;
+    EXPECT_EQ(a.LBound(), -2);
+    EXPECT_EQ(a.UBound(), 5);
+    EXPECT_EQ(errorOf([&] { a(-3); }), vb::SubscriptOutOfRange);
+    EXPECT_EQ(errorOf([&] { a(6); }), vb::SubscriptOutOfRange);
+    // A floating index is rounded half to even before the check.
+    EXPECT_EQ(a(4.5), 0);
+    EXPECT_EQ(&a(4.5), &a(4));
+    EXPECT_EQ(&a(vb::Variant(-2.5)), &a(-2));
+    EXPECT_EQ(errorOf([&] { a(5.5); }), vb::SubscriptOutOfRange);
+    EXPECT_EQ(errorOf([&] { a(1e12); }), vb::Overflow);
+
+    a.ReDim(0, 1); // anew: nothing kept
+    EXPECT_EQ(a(0), 0);
+    a.Erase();
+    EXPECT_EQ(errorOf([&] { a(0); }), vb::SubscriptOutOfRange);
+    EXPECT_EQ(errorOf([&] { a.ReDim(3, 2); }), vb::SubscriptOutOfRange);
+
+    vb::Array3<int16_t> cube(3, 4, 5);
+    cube(2, 3, 4) = 1;
+    EXPECT_EQ(errorOf([&] { cube(3, 0, 0); }), vb::SubscriptOutOfRange);
+    EXPECT_EQ(errorOf([&] { cube(0, -1, 0); }), vb::SubscriptOutOfRange);
+    EXPECT_EQ(errorOf([&] { cube(0, 0, 5); }), vb::SubscriptOutOfRange);
+}
+
+TEST(VbArray, AnAllocationAbove256MegabytesIsOutOfMemoryAndAllocatesNothing) {
+    EXPECT_EQ(errorOf([] { vb::checkAllocation(vb::kMaxAllocationBytes, 1); }), 0);
+    EXPECT_EQ(errorOf([] { vb::checkAllocation(vb::kMaxAllocationBytes + 1, 1); }), vb::OutOfMemory);
+    EXPECT_EQ(errorOf([] { vb::checkAllocation(std::numeric_limits<std::size_t>::max(), 8); }),
+              vb::OutOfMemory);
+
+    // Sizes a hostile header could ask for: a real attempt would end in bad_alloc.
+    vb::Array<int32_t> a(0, 9);
+    a(9) = 5;
+    EXPECT_EQ(errorOf([&] { a.ReDim(0, int64_t{1} << 40); }), vb::OutOfMemory);
+    EXPECT_EQ(a.UBound(), 9); // the old allocation stands
+    EXPECT_EQ(a(9), 5);
+    EXPECT_EQ(errorOf([] { vb::Array3<int16_t>(40000, 40000, 3); }), vb::OutOfMemory);
+}
+
+TEST(VbFiles, GetReadsAtOneBasedPositionsAndEofShowsOnlyAfterAShortRead) {
+    TempDir dir;
+    std::string path = dir.write("three.bin", {0x11, 0x22, 0x33});
+    vb::FileTable files;
+    files.OpenForRead(1, path);
+    EXPECT_EQ(files.LOF(1), 3);
+    EXPECT_FALSE(files.EOF_(1));
+
+    uint8_t b = 0;
+    files.Get(1, 1, b);
+    EXPECT_EQ(b, 0x11);
+    files.Get(1, 3, b);
+    EXPECT_EQ(b, 0x33);
+    EXPECT_FALSE(files.EOF_(1)); // the last byte was read, but nothing ran short yet
+    files.Get(1, 4, b);
+    EXPECT_EQ(b, 0x33); // unchanged
+    EXPECT_TRUE(files.EOF_(1));
+
+    int16_t word = -1;
+    files.Get(1, 1, word);
+    EXPECT_EQ(word, 0x2211); // low byte first
+    EXPECT_FALSE(files.EOF_(1));
+    files.Get(1, 3, word); // one byte of two: nothing is taken
+    EXPECT_EQ(word, 0x2211);
+    EXPECT_TRUE(files.EOF_(1));
+
+    Bytes tail = files.GetBytes(1, 2, 10);
+    EXPECT_EQ(tail, (Bytes{0x22, 0x33}));
+    EXPECT_TRUE(files.EOF_(1));
+
+    EXPECT_EQ(errorOf([&] { files.Get(1, 0, b); }), vb::BadRecordNumber);
+    EXPECT_EQ(errorOf([&] { files.OpenForRead(1, path); }), vb::FileAlreadyOpen);
+    files.Close(1);
+    EXPECT_EQ(errorOf([&] { files.Get(1, 1, b); }), vb::BadFileNameOrNumber);
+    EXPECT_EQ(errorOf([&] { files.OpenForRead(2, dir.file("missing.bin")); }), vb::FileNotFound);
+    EXPECT_EQ(errorOf([&] { files.OpenForRead(2, dir.path().string()); }), vb::FileNotFound);
+
+    files.OpenForRead(2, dir.write("empty.bin", {}));
+    EXPECT_TRUE(files.EOF_(2)); // an empty file is at its end at once
+}
+
+TEST(VbFiles, PutWritesAtOneBasedPositionsIntoWhatTheFileHeld) {
+    TempDir dir;
+    std::string path = dir.write("out.bin", {1, 2, 3, 4});
+    vb::FileTable files;
+    files.OpenForWrite(1, path);
+    const uint8_t nine[] = {9, 9};
+    files.Put(1, 2, nine, 2);
+    files.Put(1, 6, nine, 1); // past the end: the gap is filled with zeros
+    EXPECT_EQ(files.LOF(1), 6);
+    files.Close(1);
+    EXPECT_EQ(tavrin::test::readFile(path), (Bytes{1, 9, 9, 4, 0, 9}));
+
+    vb::Kill(path);
+    EXPECT_FALSE(vb::fileExists(path));
+    EXPECT_EQ(errorOf([&] { vb::Kill(path); }), vb::FileNotFound);
+}
+
+TEST(Variant, HoldsTheKindLastAssignedAndComparesTextsAsTexts) {
+    vb::Variant unset;
+    EXPECT_TRUE(unset.isEmpty());
+    EXPECT_EQ(unset.num(), 0);
+    EXPECT_TRUE(unset == "");
+    EXPECT_TRUE(unset != "Draw");
+    EXPECT_TRUE(unset == 0);
+
+    EXPECT_EQ(vb::Variant(30000).kind(), vb::Variant::Kind::Integer);
+    EXPECT_EQ(vb::Variant(40000).kind(), vb::Variant::Kind::Long);
+    EXPECT_EQ(vb::Variant(int64_t{1} << 40).kind(), vb::Variant::Kind::Double);
+    // Arithmetic widens: two 16-bit values multiply without overflow.
+    vb::Variant a(int16_t{30000});
+    EXPECT_EQ(a * a, 9e8);
+
+    vb::Variant word("Draw");
+    EXPECT_TRUE(word == "Draw");
+    EXPECT_TRUE(word != "draw"); // tool words compare exactly
+    EXPECT_TRUE(word != "Draw ");
+    EXPECT_EQ(errorOf([&] { word.num(); }), vb::TypeMismatch);
+    EXPECT_EQ(vb::Variant(" 12 ").num(), 12);
+    EXPECT_TRUE(vb::Variant("") != 6); // an emptied answer is not Yes
+
+    EXPECT_EQ(vb::Variant(0.1).str(), "0.1");
+    EXPECT_EQ(vb::Variant(0.1f).str(), "0.1");
+    EXPECT_EQ(vb::Variant(-1.5).str(), "-1.5");
+    EXPECT_EQ(vb::Variant(true).num(), -1);
+    EXPECT_EQ(vb::Variant(255.0).str(), "255");
+}
+
+} // namespace
