@@ -29,7 +29,8 @@ MatchResult matchColor(const vb::Array<PalRecord>& table, int32_t check, int32_t
 // and isn't kept.
 struct FrmMain::MatchCache {
     struct Entry {
-        int32_t color = -1; // -1 never hits: such inputs aren't stored
+        bool used = false; // no colour marks an empty slot: -1 is an input like any other
+        int32_t color = 0;
         MatchResult result;
     };
     static constexpr int kBits = 16;
@@ -40,11 +41,11 @@ struct FrmMain::MatchCache {
     }
     const MatchResult* find(int32_t color) const {
         const Entry& e = entries[slot(color)];
-        return e.color == color ? &e.result : nullptr;
+        return e.used && e.color == color ? &e.result : nullptr;
     }
     void store(int32_t color, const MatchResult& r) {
         if (!r.indexSet || color == -1) return;
-        entries[slot(color)] = Entry{color, r};
+        entries[slot(color)] = Entry{true, color, r};
     }
     void clear() { std::fill(entries.begin(), entries.end(), Entry{}); }
 };
