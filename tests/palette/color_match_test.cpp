@@ -1,0 +1,150 @@
+// Temp_Color_Check: the nearest palette colour, its tie rules, the fields it leaves
+// behind, and the cache of its answers, which must never differ from the plain scan.
+#include "palette/color_match.h"
+#include "support/test_support.h"
+
+namespace tavrin::test {
+namespace {
+
+using TempColorCheck = EditorTest;
+
+int32_t recordColour(const FrmMain& frm, int n) {
+    const PalRecord& r = frm.Pal_Table(n);
+    return packed(r.Red, r.Green, r.Blue);
+}
+
+void check(FrmMain& frm, int32_t colour) {
+    frm.Check_Color = colour;
+    frm.Temp_Color_Check();
+}
+
+// A 768-byte palette: the given colours first, then white.
+Bytes smallPalette(std::initializer_list<std::array<uint8_t, 3>> colours) {
+    Bytes b(768, 255);
+    std::size_t k = 0;
+    for (const auto& c : colours)
+        for (uint8_t part : c) b[k++] = part;
+    return b;
+}
+
+// Calls Temp_Color_Check and compares every field it touches with the plain scan
+// applied to the fields as they stood.
+::testing::AssertionResult sameAsPlainScan(FrmMain& frm, int32_t colour) {
+    const MatchResult plain = matchColor(frm.Pal_Table, colour, frm.Near_Color);
+    vb::Variant index = frm.Color_Index;
+    int32_t nearColor = frm.Near_Color;
+    if (plain.indexSet) index = plain.index;
+    if (plain.nearSet) nearColor = plain.nearColor;
+    check(frm, colour);
+    if (frm.Check_Color != plain.checkColor || frm.Color_Index.repr() != index.repr() ||
+        frm.Near_Color != nearColor || frm.Near_Distance != plain.nearDistance)
+        return ::testing::AssertionFailure()
+               << "colour " << colour << ": Check_Color " << frm.Check_Color << " vs "
+               << plain.checkColor << ", Color_Index " << frm.Color_Index.repr() << " vs "
+               << index.repr() << ", Near_Color " << frm.Near_Color << " vs " << nearColor
+               << ", Near_Distance " << frm.Near_Distance << " vs " << plain.nearDistance;
+    return ::testing::AssertionSuccess();
+}
+
+TEST_F(TempColorCheck, GamePaletteColoursHitTheirLowestRecordAndBlackIsNeverIndexZero) {
+    loadPalette(gamePalette());
+    ASSERT_EQ(recordColour(frm, 0), 0); // the game's record 0 is black
+    for (int n = 1; n < 256; ++n) {
+        int first = 1;
+        while (recordColour(frm, first) != recordColour(frm, n)) ++first;
+        check(frm, recordColour(frm, n));
+        EXPECT_EQ(frm.Check_Color, recordColour(frm, n)) << n;
+        EXPECT_EQ(frm.Color_Index, first) << n;
+    }
+    check(frm, 0);
+    EXPECT_EQ(frm.Check_Color, 0);
+    EXPECT_NE(frm.Color_Index, 0);
+    EXPECT_EQ(frm.Color_Index, 127); // the game's first black after record 0
+}
+
+TEST_F(TempColorCheck, TiesGoToTheLowerRecordAndTheNearestSoFarIsLeftBehind) {
+    loadPalette(smallPalette({{0, 0, 0}, {100, 0, 0}, {0, 0, 60}, {0, 60, 0}, {30, 30, 30}}));
+
+    // Black is only record 0, which takes no part: records 2 and 3 tie at 60.
+    check(frm, 0);
+    EXPECT_EQ(frm.Check_Color, packed(0, 0, 60));
+    EXPECT_EQ(frm.Color_Index, 2);
+    EXPECT_EQ(frm.Near_Distance, 60);
+
+    // An exact hit at record 4 leaves the nearest of the records before it.
+    frm.Near_Color = 777;
+    for (int pass = 0; pass < 2; ++pass) { // the second answer comes from the cache
+        check(frm, packed(30, 30, 30));
+        EXPECT_EQ(frm.Check_Color, packed(30, 30, 30));
+        EXPECT_EQ(frm.Color_Index, 4);
+        EXPECT_EQ(frm.Near_Color, packed(0, 0, 60));
+        EXPECT_EQ(frm.Near_Distance, 90);
+        frm.Near_Color = 777;
+    }
+
+    // An exact hit at record 1 leaves Near_Color alone.
+    for (int pass = 0; pass < 2; ++pass) {
+        frm.Near_Color = 555 + pass;
+        check(frm, packed(100, 0, 0));
+        EXPECT_EQ(frm.Color_Index, 1);
+        EXPECT_EQ(frm.Near_Color, 555 + pass);
+        EXPECT_EQ(frm.Near_Distance, 780);
+    }
+}
+
+TEST_F(TempColorCheck, MinusOneIsNearNoRecordAndGivesBackTheLastNearColour) {
+    loadPalette(smallPalette({{0, 0, 0}, {100, 0, 0}, {0, 0, 60}}));
+    check(frm, -1);
+    EXPECT_EQ(frm.Check_Color, 0); // Near_Color as it started
+    EXPECT_TRUE(frm.Color_Index.isEmpty());
+
+    check(frm, packed(90, 0, 0));
+    EXPECT_EQ(frm.Color_Index, 1);
+    check(frm, -1);
+    EXPECT_EQ(frm.Check_Color, packed(100, 0, 0));
+    EXPECT_EQ(frm.Color_Index, 1);
+    check(frm, packed(0, 0, 50));
+    check(frm, -1); // not remembered from the call before
+    EXPECT_EQ(frm.Check_Color, packed(0, 0, 60));
+    EXPECT_EQ(frm.Color_Index, 2);
+    check(frm, 0x02000000 | packed(100, 0, 0)); // palette-relative: no byte parts either
+    EXPECT_EQ(frm.Check_Color, packed(0, 0, 60));
+}
+
+TEST_F(TempColorCheck, AnAllZeroTableGivesBlackWithIndexZero) {
+    for (int32_t colour : {packed(18, 52, 86), 0, 0xFFFFFF}) {
+        check(frm, colour);
+        EXPECT_EQ(frm.Check_Color, 0);
+        EXPECT_EQ(frm.Color_Index, 0);
+        EXPECT_FALSE(frm.Color_Index.isEmpty());
+    }
+}
+
+TEST_F(TempColorCheck, CachedAnswersEqualThePlainScanAcrossPaletteChanges) {
+    auto sweep = [this] {
+        for (int r = 0; r < 256; r += 15)
+            for (int g = 1; g < 256; g += 17)
+                for (int b = 2; b < 256; b += 19) {
+                    ASSERT_TRUE(sameAsPlainScan(frm, packed(r, g, b)));
+                    if ((r + g + b) % 7 == 0) {
+                        ASSERT_TRUE(sameAsPlainScan(frm, -1));
+                    }
+                }
+        for (int n = 0; n < 258; ++n) ASSERT_TRUE(sameAsPlainScan(frm, recordColour(frm, n)));
+    };
+    Bytes game = gamePalette();
+    loadPalette(game);
+    sweep();
+    sweep(); // now from the cache
+
+    Bytes shifted(game.begin() + 3, game.end()); // every colour one record earlier
+    loadPalette(shifted, "shifted.pal");
+    sweep();
+    Bytes dimmer = makeBytes(90, [&](std::size_t k) { return static_cast<uint8_t>(game[k] / 2); });
+    loadPalette(dimmer, "dimmer.pal"); // changes the first 31 records only
+    sweep();
+    sweep();
+}
+
+} // namespace
+} // namespace tavrin::test

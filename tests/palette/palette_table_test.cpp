@@ -1,0 +1,184 @@
+// Get_Pal: a raw palette of any length into Pal_Table and the grid of Picture2, and
+// RGB_Color's split of the current colour.
+#include "support/test_support.h"
+
+#include <filesystem>
+
+namespace tavrin::test {
+namespace {
+
+// Bytes that repeat no colour in a few hundred records.
+Bytes patterned(std::size_t count) {
+    return makeBytes(count, [](std::size_t k) { return static_cast<uint8_t>(k * 37 + 11); });
+}
+
+using GetPal = EditorTest;
+
+// Every record as numbers, to see that a failed read changed nothing.
+std::vector<int> table(const FrmMain& frm) {
+    std::vector<int> out;
+    for (int n = 0; n <= 900; ++n) {
+        const PalRecord& r = frm.Pal_Table(n);
+        out.insert(out.end(), {r.Red, r.Green, r.Blue, r.Index, r.Cell_X, r.Cell_Y});
+    }
+    return out;
+}
+
+// index -1: the record's own number.
+void expectRecord(const FrmMain& frm, int n, int red, int green, int blue, int cellX, int cellY,
+                  int index = -1) {
+    SCOPED_TRACE("record " + std::to_string(n));
+    const PalRecord& r = frm.Pal_Table(n);
+    EXPECT_EQ(r.Red, red);
+    EXPECT_EQ(r.Green, green);
+    EXPECT_EQ(r.Blue, blue);
+    EXPECT_EQ(r.Index, index < 0 ? n : index);
+    EXPECT_EQ(r.Cell_X, cellX);
+    EXPECT_EQ(r.Cell_Y, cellY);
+}
+
+// Record n read from bytes 3n to 3n + 2 of the file.
+void expectFromFile(const FrmMain& frm, const Bytes& b, int n) {
+    auto k = static_cast<std::size_t>(3 * n);
+    expectRecord(frm, n, b.at(k), b.at(k + 1), b.at(k + 2), n % 16 * 11, n / 16 * 11);
+}
+
+TEST_F(GetPal, A768ByteFileFillsTheTableAndPaintsACellForEachColour) {
+    Bytes b = patterned(768);
+    loadPalette(b);
+    EXPECT_TRUE(host.messages().empty());
+    for (int n = 0; n < 256; ++n) expectFromFile(frm, b, n);
+    // The file ends on a whole colour, so one pass more copies the last one, below the grid.
+    expectRecord(frm, 256, b[765], b[766], b[767], 0, 176);
+    expectRecord(frm, 257, 0, 0, 0, 0, 0, 0); // never written
+    EXPECT_TRUE(frm.Pal_Answer.isEmpty());
+
+    ASSERT_EQ(frm.Picture2.innerWidth(), 176);
+    ASSERT_EQ(frm.Picture2.innerHeight(), 176);
+    for (int n = 0; n < 256; ++n) {
+        const PalRecord& r = frm.Pal_Table(n);
+        int32_t colour = packed(r.Red, r.Green, r.Blue);
+        EXPECT_EQ(frm.Picture2.Point(r.Cell_X, r.Cell_Y), colour) << n;
+        EXPECT_EQ(frm.Picture2.Point(r.Cell_X + 10, r.Cell_Y + 10), colour) << n;
+    }
+}
+
+TEST_F(GetPal, BytesBehindTheLastWholeColourGoIntoTheNextRecordsAndShortFilesKeepTheRest) {
+    Bytes act = patterned(772); // an ACT table with its four trailing bytes
+    loadPalette(act, "table.act");
+    for (int n = 0; n < 257; ++n) expectFromFile(frm, act, n);
+    // One byte for record 257: a short read leaves green and blue as they were.
+    expectRecord(frm, 257, act[771], act[769], act[770], 11, 176);
+
+    Bytes shortFile = patterned(31);
+    for (auto& byte : shortFile) byte = static_cast<uint8_t>(255 - byte);
+    loadPalette(shortFile, "short.pal");
+    EXPECT_TRUE(host.messages().empty());
+    for (int n = 0; n < 10; ++n) expectFromFile(frm, shortFile, n);
+    expectRecord(frm, 10, shortFile[30], shortFile[28], shortFile[29], 110, 0);
+    for (int n = 11; n < 257; ++n) expectFromFile(frm, act, n); // not reached: as they were
+    expectRecord(frm, 257, act[771], act[769], act[770], 11, 176);
+    const PalRecord& kept = frm.Pal_Table(11);
+    EXPECT_EQ(frm.Picture2.Point(121 + 5, 5), packed(kept.Red, kept.Green, kept.Blue));
+}
+
+TEST_F(GetPal, AFileOfWholeColoursGetsOneCopyOfItsLastColourMore) {
+    loadPalette(gamePalette());
+    Bytes b = patterned(30);
+    loadPalette(b);
+    for (int n = 0; n < 10; ++n) expectFromFile(frm, b, n);
+    expectRecord(frm, 10, b[27], b[28], b[29], 110, 0);
+    EXPECT_EQ(frm.Picture2.Point(115, 5), packed(b[27], b[28], b[29]));
+    Bytes game = gamePalette();
+    expectFromFile(frm, game, 11);
+    EXPECT_EQ(frm.Picture2.Point(126, 5), packed(game[33], game[34], game[35]));
+}
+
+TEST_F(GetPal, NoMoreThan258ColoursAreKept) {
+    frm.Pal_Table(258).Red = 99;
+    Bytes b = patterned(800);
+    loadPalette(b);
+    EXPECT_TRUE(host.messages().empty());
+    for (int n = 0; n < 258; ++n) expectFromFile(frm, b, n);
+    expectRecord(frm, 258, 99, 0, 0, 0, 0, 0);
+}
+
+TEST_F(GetPal, AnswerYesReadsTheLast768BytesOnceAndEmptiesTheAnswer) {
+    Bytes file = patterned(1000);
+    std::string path = dir.write("skin.pcx", file);
+    frm.Pal_Path = path;
+    frm.Pal_Answer = 6;
+    frm.Get_Pal();
+    EXPECT_TRUE(host.messages().empty());
+    EXPECT_EQ(frm.Pal_File_Len, 1000);
+    EXPECT_TRUE(frm.Pal_Answer.isText());
+    EXPECT_EQ(frm.Pal_Answer, "");
+    Bytes tail(file.end() - 768, file.end());
+    for (int n = 0; n < 256; ++n) expectFromFile(frm, tail, n);
+    expectRecord(frm, 256, tail[765], tail[766], tail[767], 0, 176);
+
+    frm.Get_Pal(); // the emptied answer: from the first byte this time
+    for (int n = 0; n < 258; ++n) expectFromFile(frm, file, n);
+}
+
+TEST_F(GetPal, AMissingOrTooShortFileShowsOneMessageAndChangesNothing) {
+    loadPalette(gamePalette());
+    const std::vector<int> before = table(frm);
+    const auto picture = frm.Picture2.Image();
+    const std::string message = "Path/File not found, or not a valid file.";
+
+    frm.Pal_Path = dir.file("Nothing.PAL");
+    frm.Get_Pal();
+    ASSERT_EQ(host.messages().size(), 1u);
+    EXPECT_EQ(host.messages()[0].text, message);
+    EXPECT_EQ(host.messages()[0].style, platform::kStyleOk);
+    EXPECT_EQ(table(frm), before);
+    EXPECT_EQ(frm.Picture2.Image()->px, picture->px);
+
+    loadPalette({}, "empty.pal"); // nothing to read, nothing to say
+    EXPECT_EQ(host.messages().size(), 1u);
+    EXPECT_EQ(table(frm), before);
+
+    frm.Pal_Answer = 6;
+    loadPalette(patterned(767), "small.pcx"); // its tail would start before the file
+    ASSERT_EQ(host.messages().size(), 2u);
+    EXPECT_EQ(host.messages()[1].text, message);
+    EXPECT_EQ(table(frm), before);
+    EXPECT_EQ(frm.Picture2.Image()->px, picture->px);
+}
+
+TEST_F(GetPal, RealSkinTailsAndColourTables) {
+    const std::filesystem::path real = TAVRIN_REALDATA;
+    const auto skin = real / "md2/SnowfallEagle-Volition3D/Bin/Assets/Models/0069/actionbond_i.pcx";
+    const auto act = real / "palettes/paulwratt-programmers-palettes/docs/Arne16v20/16pal_v20.act";
+    if (!std::filesystem::exists(skin) || !std::filesystem::exists(act))
+        GTEST_SKIP() << "no real files beside the project";
+
+    // This skin carries the game's palette behind its marker byte.
+    frm.Pal_Path = skin.string();
+    frm.Pal_Answer = 6;
+    frm.Get_Pal();
+    Bytes game = gamePalette();
+    for (int n = 0; n < 256; ++n) expectFromFile(frm, game, n);
+
+    Bytes table = readFile(act.string());
+    frm.Pal_Path = act.string();
+    frm.Get_Pal();
+    EXPECT_TRUE(host.messages().empty());
+    for (int n = 0; n < 257; ++n) expectFromFile(frm, table, n);
+    expectRecord(frm, 257, table[771], table[769], table[770], 11, 176);
+}
+
+TEST_F(GetPal, RgbColorSplitsTheCurrentColourIntoTheThreeTextBoxes) {
+    frm.Cur_Color = packed(17, 34, 251);
+    frm.RGB_Color();
+    EXPECT_EQ(frm.Cur_R, 17);
+    EXPECT_EQ(frm.Cur_G, 34);
+    EXPECT_EQ(frm.Cur_B, 251);
+    EXPECT_EQ(frm.Text1.Text.get(), "17");
+    EXPECT_EQ(frm.Text2.Text.get(), "34");
+    EXPECT_EQ(frm.Text3.Text.get(), "251");
+}
+
+} // namespace
+} // namespace tavrin::test
