@@ -92,6 +92,8 @@ class Label : public Control {
 public:
     Label(Form* form, std::string name) : Control(form, std::move(name), ControlKind::Label) {}
     Prop<std::string> Caption{this, "Caption"};
+    Prop<double> FontSize{this, "FontSize", 8.0};
+    Prop<bool> FontBold{this, "FontBold", false};
 };
 
 class TextBox : public Control {

@@ -18,6 +18,8 @@ FrmSplash::FrmSplash(platform::Host& host, std::function<void()> showMain)
     SSCommand1.Move(345, 4365, 1815, 405);
     SSCommand2.Move(2280, 4380, 1815, 405);
     lblProductName.Caption = "Tavrin";
+    lblProductName.FontSize = 24;
+    lblProductName.FontBold = true;
     lblPlatform.Caption = "Windows 95/NT";
     SSCommand1.Caption = "OK";
     SSCommand2.Caption = "I Quit";

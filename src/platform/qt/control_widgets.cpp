@@ -1,0 +1,202 @@
+#include "platform/qt/control_widgets.h"
+
+#include "platform/picture_box.h"
+#include "platform/qt/dispatch.h"
+#include "platform/qt/picture_widget.h"
+
+#include <QFrame>
+#include <QLabel>
+#include <QLineEdit>
+#include <QListWidget>
+#include <QProgressBar>
+#include <QPushButton>
+#include <QSlider>
+#include <QStyle>
+#include <QVBoxLayout>
+
+#include <map>
+
+namespace platform::qt {
+
+namespace {
+
+QString qs(const std::string& s) { return QString::fromStdString(s); }
+
+// The tool buttons carry a picture and a tool tip but no caption; until they have
+// drawn icons, a short word stands in for the picture.
+QString toolGlyph(const std::string& toolTip) {
+    static const std::map<std::string, QString> glyphs = {
+        {"Pencil (Pixel)", "Pen"}, {"Paint-Brush ", "Brush"}, {"Air-Brush", "Air"},
+        {"Blur", "Blur"},          {"Mask/Color Replace", "Mask"}, {"Eye-Dropper", "Eye"},
+        {"Rectangle", "Rect"},     {"Filled Rectangle", "Fill"}, {"Zoom", "Zoom"},
+        {"Pan Some", "500"},       {"Pan Alot", "5000"},    {"Line", "Line"},
+        {"Left", "\u25C0"},        {"Right", "\u25B6"},     {"Up", "\u25B2"},
+        {"Down", "\u25BC"},        {"Smudge", "Grad"},      {"Text", "Text"},
+        {"Close", "x"},
+    };
+    auto it = glyphs.find(toolTip);
+    return it == glyphs.end() ? QString() : it->second;
+}
+
+// Title bars of the floating bars look like a window's caption.
+bool isTitleBar(const std::string& name) {
+    return name == "SSPanel8" || name == "SSPanel9" || name == "SSPanel10" ||
+           name == "SSPanel12" || name == "SSPanel14" || name == "SSPanel17";
+}
+
+class PanelWidget : public QFrame {
+public:
+    PanelWidget(platform::Panel& panel, QWidget* parent) : QFrame(parent), label_(new QLabel(this)) {
+        setFrameStyle(QFrame::Panel | QFrame::Raised);
+        setLineWidth(1);
+        setAutoFillBackground(true);
+        if (isTitleBar(panel.name())) {
+            QPalette pal = palette();
+            pal.setColor(QPalette::Window, QColor(0, 0, 128));
+            pal.setColor(QPalette::WindowText, Qt::white);
+            setPalette(pal);
+            QFont f = label_->font();
+            f.setBold(true);
+            label_->setFont(f);
+        }
+        label_->setAttribute(Qt::WA_TransparentForMouseEvents);
+        auto* layout = new QVBoxLayout(this);
+        layout->setContentsMargins(3, 0, 3, 0);
+        layout->addWidget(label_);
+        layout->addStretch();
+        label_->setObjectName("caption");
+    }
+    void setCaption(const std::string& caption) {
+        label_->setText(qs(caption));
+        label_->setVisible(!caption.empty());
+        const bool leftAligned = !caption.empty() && caption.front() == ' ';
+        label_->setAlignment((leftAligned ? Qt::AlignLeft : Qt::AlignHCenter) | Qt::AlignVCenter);
+        if (auto* layout = static_cast<QVBoxLayout*>(this->layout())) {
+            // A panel that is all caption centres it; a bigger one keeps it on top.
+            layout->setStretch(1, height() > 30 ? 1 : 0);
+        }
+    }
+
+private:
+    QLabel* label_;
+};
+
+} // namespace
+
+QWidget* makeControlWidget(Control& control, QWidget* parent) {
+    QWidget* w = nullptr;
+    switch (control.kind()) {
+    case ControlKind::PictureBox:
+        w = new PictureWidget(static_cast<PictureBox&>(control), parent);
+        break;
+    case ControlKind::Panel:
+        w = new PanelWidget(static_cast<Panel&>(control), parent);
+        break;
+    case ControlKind::Button: {
+        auto* b = new QPushButton(parent);
+        QObject::connect(b, &QPushButton::clicked, b, [&control] { runEvent(control.Click); });
+        w = b;
+        break;
+    }
+    case ControlKind::Label:
+        w = new QLabel(parent);
+        break;
+    case ControlKind::TextBox: {
+        auto* edit = new QLineEdit(parent);
+        auto& box = static_cast<TextBox&>(control);
+        QObject::connect(edit, &QLineEdit::textEdited, edit,
+                         [&box](const QString& text) { box.Text = text.toStdString(); });
+        w = edit;
+        break;
+    }
+    case ControlKind::ListBox:
+        w = new QListWidget(parent);
+        break;
+    case ControlKind::Slider: {
+        auto* s = new QSlider(Qt::Vertical, parent);
+        auto& slider = static_cast<Slider&>(control);
+        QObject::connect(s, &QSlider::valueChanged, s, [&slider](int v) {
+            if (slider.Value == v) return;
+            slider.Value = v;
+            runEvent(slider.Change);
+        });
+        w = s;
+        break;
+    }
+    case ControlKind::ProgressBar:
+        w = new QProgressBar(parent);
+        break;
+    default:
+        return nullptr;
+    }
+    w->setObjectName(qs(control.name()));
+    return w;
+}
+
+void updateControlWidget(Control& control, QWidget* widget) {
+    switch (control.kind()) {
+    case ControlKind::Panel:
+        static_cast<PanelWidget*>(widget)->setCaption(static_cast<Panel&>(control).Caption);
+        break;
+    case ControlKind::Button: {
+        auto& c = static_cast<CommandButton&>(control);
+        auto* b = static_cast<QPushButton*>(widget);
+        QString caption = qs(c.Caption);
+        b->setText(caption.isEmpty() ? toolGlyph(c.ToolTipText) : caption);
+        b->setToolTip(qs(c.ToolTipText));
+        break;
+    }
+    case ControlKind::Label: {
+        auto& c = static_cast<Label&>(control);
+        auto* l = static_cast<QLabel*>(widget);
+        l->setText(qs(c.Caption));
+        QFont f = l->font();
+        f.setPointSizeF(c.FontSize);
+        f.setBold(c.FontBold);
+        l->setFont(f);
+        break;
+    }
+    case ControlKind::TextBox: {
+        auto* e = static_cast<QLineEdit*>(widget);
+        QString text = qs(static_cast<TextBox&>(control).Text);
+        if (e->text() != text) e->setText(text);
+        break;
+    }
+    case ControlKind::ListBox: {
+        auto& c = static_cast<ListBox&>(control);
+        auto* l = static_cast<QListWidget*>(widget);
+        if (l->count() != static_cast<int>(c.items().size())) {
+            l->clear();
+            for (const std::string& item : c.items()) l->addItem(qs(item));
+        }
+        break;
+    }
+    case ControlKind::Slider: {
+        auto& c = static_cast<Slider&>(control);
+        auto* s = static_cast<QSlider*>(widget);
+        s->setRange(c.Min, c.Max);
+        s->setValue(c.Value);
+        break;
+    }
+    case ControlKind::ProgressBar: {
+        auto& c = static_cast<ProgressBar&>(control);
+        auto* p = static_cast<QProgressBar*>(widget);
+        p->setRange(static_cast<int>(c.Min.get()), static_cast<int>(c.Max.get()));
+        p->setValue(static_cast<int>(c.Value.get()));
+        break;
+    }
+    default:
+        break;
+    }
+}
+
+QIcon toolbarIcon(const std::string& key, QStyle* style) {
+    static const std::map<std::string, QStyle::StandardPixmap> icons = {
+        {"New", QStyle::SP_FileIcon},          {"Open", QStyle::SP_DialogOpenButton},
+        {"Save", QStyle::SP_DialogSaveButton}, {"Print", QStyle::SP_ComputerIcon},
+    };
+    auto it = icons.find(key);
+    return it == icons.end() ? QIcon() : style->standardIcon(it->second);
+}
+
+} // namespace platform::qt

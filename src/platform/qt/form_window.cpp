@@ -1,0 +1,205 @@
+#include "platform/qt/form_window.h"
+
+#include "platform/qt/control_widgets.h"
+#include "platform/qt/dispatch.h"
+#include "platform/qt/picture_widget.h"
+
+#include <QAction>
+#include <QCloseEvent>
+#include <QGuiApplication>
+#include <QLabel>
+#include <QMenu>
+#include <QMenuBar>
+#include <QScreen>
+#include <QStatusBar>
+#include <QStyle>
+#include <QToolBar>
+
+namespace platform::qt {
+
+FormWindow::FormWindow(Form& form) : form_(form), surface_(new QWidget(this)) {
+    setCentralWidget(surface_);
+    surface_->setAutoFillBackground(true);
+    buildControls();
+    buildMenus();
+    setWindowTitle(QString::fromStdString(form_.Caption.get()));
+    watch(form_, [this] { setWindowTitle(QString::fromStdString(form_.Caption.get())); });
+    registerWindow(this);
+}
+
+FormWindow::~FormWindow() {
+    unregisterWindow(this);
+    for (auto& [control, id] : observers_) control->unobserve(id);
+}
+
+void FormWindow::watch(Control& control, std::function<void()> update) {
+    update();
+    observers_.emplace_back(&control, control.observe([update](const PropBase*) { update(); }));
+}
+
+QWidget* FormWindow::widgetFor(const Control* control) const {
+    auto it = widgets_.find(control);
+    return it == widgets_.end() ? nullptr : it->second;
+}
+
+void FormWindow::buildControls() {
+    // Every widget first, then each into its container: a panel may be made after the
+    // controls that stand in it.
+    for (Control* c : form_.controls()) {
+        switch (c->kind()) {
+        case ControlKind::MenuItem:
+        case ControlKind::CommonDialog:
+            continue;
+        case ControlKind::Toolbar:
+            buildToolbar(static_cast<Toolbar&>(*c));
+            continue;
+        case ControlKind::StatusBar:
+            buildStatusBar(static_cast<StatusBar&>(*c));
+            continue;
+        default:
+            break;
+        }
+        QWidget* w = makeControlWidget(*c, surface_);
+        if (!w) continue;
+        widgets_[c] = w;
+        if (c->kind() == ControlKind::PictureBox) pictures_.push_back(static_cast<PictureWidget*>(w));
+    }
+    for (auto& [control, w] : widgets_) {
+        if (control->Container)
+            if (QWidget* parent = widgetFor(control->Container)) w->setParent(parent);
+    }
+    for (auto& [control, w] : widgets_) {
+        Control* c = const_cast<Control*>(control);
+        QWidget* widget = w;
+        watch(*c, [c, widget] {
+            widget->setGeometry(c->Left.pixels(), c->Top.pixels(), c->Width.pixels(),
+                                c->Height.pixels());
+            widget->setVisible(c->Visible);
+            widget->setEnabled(c->Enabled);
+            updateControlWidget(*c, widget);
+        });
+    }
+}
+
+void FormWindow::fillMenu(QMenu* menu, MenuItem* parent) {
+    for (Control* c : form_.controls()) {
+        if (c->kind() != ControlKind::MenuItem) continue;
+        auto* item = static_cast<MenuItem*>(c);
+        if (item->Parent != parent) continue;
+        if (item->isSeparator()) {
+            QAction* sep = menu->addSeparator();
+            watch(*item, [item, sep] { sep->setVisible(item->Visible); });
+            continue;
+        }
+        bool hasChildren = false;
+        for (Control* d : form_.controls())
+            if (d->kind() == ControlKind::MenuItem && static_cast<MenuItem*>(d)->Parent == item)
+                hasChildren = true;
+        QAction* action = nullptr;
+        if (hasChildren) {
+            QMenu* sub = menu->addMenu(QString::fromStdString(item->Caption.get()));
+            fillMenu(sub, item);
+            action = sub->menuAction();
+        } else {
+            action = menu->addAction(QString::fromStdString(item->Caption.get()));
+            if (!item->Shortcut.empty()) action->setShortcut(QKeySequence(QString::fromStdString(item->Shortcut)));
+            QObject::connect(action, &QAction::triggered, this, [item, action] {
+                runEvent(item->Click);
+                // The handler owns the check mark; undo any toggle Qt made on its own.
+                action->setCheckable(item->Checked);
+                action->setChecked(item->Checked);
+            });
+        }
+        watch(*item, [item, action] {
+            action->setText(QString::fromStdString(item->Caption.get()));
+            action->setVisible(item->Visible);
+            action->setEnabled(item->Enabled);
+            action->setCheckable(item->Checked);
+            action->setChecked(item->Checked);
+        });
+    }
+}
+
+QMenu* FormWindow::menuFor(MenuItem& item) {
+    auto* menu = new QMenu(this);
+    menu->setAttribute(Qt::WA_DeleteOnClose);
+    fillMenu(menu, &item);
+    return menu;
+}
+
+void FormWindow::buildMenus() {
+    bool any = false;
+    for (Control* c : form_.controls()) {
+        if (c->kind() != ControlKind::MenuItem) continue;
+        auto* item = static_cast<MenuItem*>(c);
+        if (item->Parent != nullptr || !item->Visible) continue; // the popup stays off the bar
+        QMenu* menu = menuBar()->addMenu(QString::fromStdString(item->Caption.get()));
+        fillMenu(menu, item);
+        any = true;
+    }
+    menuBar()->setVisible(any);
+}
+
+void FormWindow::buildToolbar(Toolbar& bar) {
+    auto* tb = addToolBar(QString::fromStdString(bar.name()));
+    tb->setMovable(false);
+    tb->setToolButtonStyle(Qt::ToolButtonTextBesideIcon);
+    tb->setObjectName(QString::fromStdString(bar.name()));
+    for (const Toolbar::Button& b : bar.Buttons) {
+        if (b.Key.empty()) {
+            tb->addSeparator();
+            continue;
+        }
+        QAction* a = tb->addAction(toolbarIcon(b.Key, style()), QString::fromStdString(b.Key));
+        a->setToolTip(QString::fromStdString(b.ToolTipText));
+        a->setObjectName(QString::fromStdString(b.Key));
+        const std::string key = b.Key;
+        QObject::connect(a, &QAction::triggered, this, [&bar, key, a] {
+            runEvent([&bar, key] {
+                if (bar.ButtonClick) bar.ButtonClick(key);
+            });
+            if (const Toolbar::Button* now = bar.find(key)) {
+                a->setCheckable(now->Value != 0);
+                a->setChecked(now->Value != 0);
+            }
+        });
+    }
+    watch(bar, [tb, &bar] { tb->setVisible(bar.Visible); });
+}
+
+void FormWindow::buildStatusBar(StatusBar& bar) {
+    auto* label = new QLabel(this);
+    label->setObjectName("StatusBar1.Panel1");
+    statusBar()->addWidget(label, 1);
+    watch(bar, [label, &bar] {
+        label->setText(QString::fromStdString(bar.Panels(1).Text.get()));
+    });
+}
+
+void FormWindow::syncPictures() {
+    for (PictureWidget* p : pictures_) p->sync();
+}
+
+void FormWindow::applyWindowState() {
+    if (form_.WindowState == 2) {
+        // Without a window manager a maximise request does nothing: take the screen.
+        if (QScreen* screen = QGuiApplication::primaryScreen()) setGeometry(screen->availableGeometry());
+        showMaximized();
+    } else {
+        resize(form_.Width.pixels(), form_.Height.pixels());
+        show();
+    }
+}
+
+void FormWindow::closeEvent(QCloseEvent* event) {
+    if (onClose && !onClose()) event->ignore();
+    else event->accept();
+}
+
+void FormWindow::resizeEvent(QResizeEvent* event) {
+    QMainWindow::resizeEvent(event);
+    form_.Width.setFromView(width() * 15.0);
+    form_.Height.setFromView(height() * 15.0);
+}
+
+} // namespace platform::qt

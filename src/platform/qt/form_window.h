@@ -1,0 +1,60 @@
+#pragma once
+// A window for a Form: its controls stand on one surface at their twips positions
+// (15 to the pixel), inside the panels that contain them. Menu items become the menu
+// bar, the tool bar control a QToolBar, the status bar the window's status line. Each
+// widget follows its control through the control's observers.
+#include "platform/form.h"
+
+#include <QMainWindow>
+
+#include <map>
+#include <vector>
+
+class QMenu;
+
+namespace platform {
+class MenuItem;
+}
+
+namespace platform::qt {
+
+class PictureWidget;
+
+class FormWindow : public QMainWindow {
+    Q_OBJECT
+public:
+    explicit FormWindow(Form& form);
+    ~FormWindow() override;
+
+    Form& form() { return form_; }
+    void syncPictures();
+    // The widget made for a control, or nullptr.
+    QWidget* widgetFor(const Control* control) const;
+    // A menu made from the items under one item (for the popup menu).
+    QMenu* menuFor(MenuItem& item);
+    // Takes the window state of the form (2: maximised).
+    void applyWindowState();
+
+    // What closing the window asks the form: true to let it close.
+    std::function<bool()> onClose;
+
+protected:
+    void closeEvent(QCloseEvent* event) override;
+    void resizeEvent(QResizeEvent* event) override;
+
+private:
+    void buildControls();
+    void buildMenus();
+    void fillMenu(QMenu* menu, MenuItem* parent);
+    void buildToolbar(class Toolbar& bar);
+    void buildStatusBar(class StatusBar& bar);
+    void watch(Control& control, std::function<void()> update);
+
+    Form& form_;
+    QWidget* surface_;
+    std::map<const Control*, QWidget*> widgets_;
+    std::vector<PictureWidget*> pictures_;
+    std::vector<std::pair<Control*, int>> observers_;
+};
+
+} // namespace platform::qt

@@ -1,0 +1,25 @@
+#pragma once
+// Shows a PictureBox: paints only the exposed region, from the box's own description.
+#include "platform/picture_box.h"
+
+#include <QWidget>
+
+namespace platform::qt {
+
+class PictureWidget : public QWidget {
+    Q_OBJECT
+public:
+    PictureWidget(PictureBox& box, QWidget* parent);
+    PictureBox& box() { return box_; }
+    // Repaints when the box's content changed since the last paint.
+    void sync();
+
+protected:
+    void paintEvent(QPaintEvent* event) override;
+
+private:
+    PictureBox& box_;
+    uint64_t shownVersion_ = ~uint64_t{0};
+};
+
+} // namespace platform::qt

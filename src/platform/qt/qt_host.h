@@ -1,0 +1,41 @@
+#pragma once
+// The host of the real program: Qt's message boxes and dialogs, its event loop, and a
+// window for each form that is shown.
+#include "platform/host.h"
+
+#include <map>
+#include <memory>
+
+namespace platform::qt {
+
+class FormWindow;
+
+class QtHost : public Host {
+public:
+    QtHost();
+    ~QtHost() override;
+
+    int MsgBox(const std::string& text, int style) override;
+    bool ShowOpen(CommonDialog& dialog) override;
+    bool ShowSave(CommonDialog& dialog) override;
+    bool ShowColor(CommonDialog& dialog) override;
+    bool ShowFont(CommonDialog& dialog) override;
+    bool ShowPrinter(CommonDialog& dialog) override;
+    void DoEvents() override;
+    void PopupMenu(MenuItem& menu) override;
+    void ShowForm(Form& form) override;
+    void UnloadForm(Form& form) override;
+    std::string AppPath() override;
+    std::string Date() override;
+    void End() override;
+
+    FormWindow* windowFor(const Form& form) const;
+    // Closes every window while the forms still stand: call before the forms go.
+    void closeAll();
+
+private:
+    bool fileDialog(CommonDialog& dialog, bool save);
+    std::map<const Form*, std::unique_ptr<FormWindow>> windows_;
+};
+
+} // namespace platform::qt

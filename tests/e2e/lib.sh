@@ -1,0 +1,70 @@
+# Shared by the end-to-end tests: a private X server, the editor on it, and waits.
+# Usage: . lib.sh; start_x; start_tavrin BINARY; ...; finish
+set -eu
+[ -n "${E2E_TRACE:-}" ] && set -x
+
+fail() { echo "FAIL: $*" >&2; exit 1; }
+
+start_x() {
+    for n in $(seq 90 140); do
+        [ -e "/tmp/.X11-unix/X$n" ] || [ -e "/tmp/.X$n-lock" ] && continue
+        Xvfb ":$n" -screen 0 1280x1024x24 -nolisten tcp >/dev/null 2>&1 &
+        XVFB_PID=$!
+        export DISPLAY=":$n"
+        for _ in $(seq 50); do
+            xdpyinfo >/dev/null 2>&1 && return 0
+            sleep 0.1
+        done
+        kill "$XVFB_PID" 2>/dev/null || true
+    done
+    fail "no X server could be started"
+}
+
+start_tavrin() {
+    "$1" >"$WORK/tavrin.log" 2>&1 &
+    TAVRIN_PID=$!
+}
+
+# Waits for a window whose title matches exactly and prints its id.
+wait_window() {
+    id=$(timeout 20 xdotool search --sync --onlyvisible --name "^$1\$" 2>/dev/null | tail -1) || true
+    [ -n "$id" ] || fail "no window titled '$1'"
+    echo "$id"
+}
+
+# Clicks at a point in twips of a window's client area.
+click_twips() {
+    xdotool mousemove --window "$1" $(($2 / 15)) $(($3 / 15)) click 1
+}
+
+# Opens a menu of the bar by a click at x pixels across it; the open menu then has
+# the keyboard.
+open_menu() {
+    xdotool mousemove --window "$1" "$2" 10 click 1
+    sleep 0.3
+}
+
+# Answers a message box with a key.
+answer() {
+    [ -n "$1" ] || fail "no message box"
+    xdotool windowfocus --sync "$1" 2>/dev/null || true
+    xdotool key "$2"
+}
+
+shot() {
+    [ -n "${TAVRIN_SCREENSHOTS:-}" ] || return 0
+    xwd -root -silent | convert xwd:- "$TAVRIN_SCREENSHOTS/$1"
+}
+
+wait_exit() {
+    for _ in $(seq 100); do
+        kill -0 "$TAVRIN_PID" 2>/dev/null || return 0
+        sleep 0.1
+    done
+    fail "the editor did not end"
+}
+
+finish() {
+    kill "$TAVRIN_PID" 2>/dev/null || true
+    kill "$XVFB_PID" 2>/dev/null || true
+}
