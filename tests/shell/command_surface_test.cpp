@@ -1,0 +1,157 @@
+// The menu bar and the floating bars as the tables make them, and the View menu's
+// show and hide with the close buttons' quirk.
+#include "shell/command_tables.h"
+#include "support/test_support.h"
+
+#include <map>
+#include <set>
+
+namespace tavrin::test {
+namespace {
+
+using CommandSurface = EditorTest;
+
+std::set<std::string> menuItemsWhere(const FrmMain& frm,
+                                     const std::function<bool(const platform::MenuItem&)>& pred) {
+    std::set<std::string> names;
+    for (const platform::Control* c : frm.controls())
+        if (auto* item = dynamic_cast<const platform::MenuItem*>(c); item && pred(*item))
+            names.insert(item->name());
+    return names;
+}
+
+TEST_F(CommandSurface, EveryMenuItemComesFromTheTableOnceWithItsOwnShortcut) {
+    std::set<std::string> inTable;
+    std::map<std::string, std::string> shortcutOwner;
+    int previousLevel = 0;
+    for (const shell::MenuSpec& m : shell::menuTable()) {
+        const platform::MenuItem& item = frm.*m.item;
+        SCOPED_TRACE(item.name());
+        EXPECT_EQ(frm.find(item.name()), &item); // the name finds the very control
+        EXPECT_TRUE(inTable.insert(item.name()).second) << "listed twice";
+        EXPECT_EQ(item.Caption.get(), m.caption);
+        EXPECT_LE(m.level, previousLevel + 1); // a submenu only under an item above it
+        previousLevel = m.level;
+        if (m.level == 0) {
+            EXPECT_EQ(item.Parent, nullptr);
+        } else {
+            ASSERT_NE(item.Parent, nullptr);
+            EXPECT_FALSE(item.Parent->isSeparator());
+        }
+        if (!item.Shortcut.empty()) {
+            auto [it, fresh] = shortcutOwner.emplace(item.Shortcut, item.name());
+            EXPECT_TRUE(fresh) << item.Shortcut << " also on " << it->second;
+        }
+    }
+    EXPECT_EQ(menuItemsWhere(frm, [](auto&) { return true; }), inTable);
+
+    const std::map<std::string, std::string> shortcuts = {
+        {"Ctrl+Z", "Undo"},     {"Ctrl+I", "ri"},      {"Ctrl+W", "wF"},     {"Ctrl+Q", "mZoom"},
+        {"Ctrl+E", "Eye"},      {"Ctrl+A", "pEdit"},   {"Ctrl+L", "mLine"},  {"Ctrl+F", "mFill"},
+        {"Ctrl+R", "mFrect"},   {"Ctrl+G", "Grf"},     {"Ctrl+P", "Pbrush"}, {"Ctrl+X", "AirBrush"},
+        {"Ctrl+B", "BlurBrush"}, {"Ctrl+T", "tnnt"}};
+    EXPECT_EQ(shortcutOwner, shortcuts);
+
+    EXPECT_EQ(frm.Undo.Parent, &frm.Edfit);
+    EXPECT_EQ(frm.pcxIm.Parent, &frm.im);
+    EXPECT_EQ(frm.Pop9.Parent, &frm.bsPop);
+    EXPECT_EQ(frm.wiPop.Parent, &frm.Pop);
+    for (const platform::MenuItem* sep : {&frm.space, &frm.space1, &frm.s1, &frm.space2, &frm.s2,
+                                          &frm.s3, &frm.cer1, &frm.s4, &frm.s9, &frm.spacer10,
+                                          &frm.spacer11, &frm.spacer12})
+        EXPECT_TRUE(sep->isSeparator()) << sep->name();
+}
+
+TEST_F(CommandSurface, MenuItemsStartCheckedHiddenOrDisabledAsDesigned) {
+    using Names = std::set<std::string>;
+    EXPECT_EQ(menuItemsWhere(frm, [](auto& m) { return m.Checked.get(); }),
+              (Names{"PALE", "ToolBar", "fil", "p9", "gl", "Cl256"}));
+    EXPECT_EQ(menuItemsWhere(frm, [](auto& m) { return !m.Visible.get(); }),
+              (Names{"MD2Im", "OpenSkin", "mLine", "mFill", "Mode", "Pop"}));
+    EXPECT_EQ(menuItemsWhere(frm, [](auto& m) { return !m.Enabled.get(); }),
+              (Names{"MD2Im", "OpenSkin", "mLine", "mFill", "Cl256", "CLhigh"}));
+    EXPECT_FALSE(frm.Pbrush.Click); // does nothing, by menu or by Ctrl+P
+}
+
+TEST_F(CommandSurface, FloatingBarsStartAtTheirDesignPlaces) {
+    struct Bar {
+        const platform::Panel& panel;
+        double left, top, width, height;
+        bool visible;
+    };
+    const Bar bars[] = {{frm.SSPanel13, 9495, 4650, 2205, 2925, true},
+                        {frm.SSPanel15, 60, 7140, 5295, 825, true},
+                        {frm.SSPanel1, 8730, 510, 3075, 4065, true},
+                        {frm.SSPanel11, 240, 510, 4125, 2865, false},
+                        {frm.SSPanel7, 1020, 4290, 4095, 4095, false},
+                        {frm.SSPanel16, 4920, 1140, 855, 1365, false},
+                        {frm.SSPanel5, 5295, 4680, 4035, 3300, false},
+                        {frm.SSPanel2, 9915, 5220, 780, 750, false}};
+    for (const Bar& b : bars) {
+        SCOPED_TRACE(b.panel.name());
+        EXPECT_EQ(b.panel.Left, b.left);
+        EXPECT_EQ(b.panel.Top, b.top);
+        EXPECT_EQ(b.panel.Width, b.width);
+        EXPECT_EQ(b.panel.Height, b.height);
+        EXPECT_EQ(b.panel.Visible.get(), b.visible);
+    }
+    EXPECT_EQ(frm.SSPanel3.Caption.get(), "Zoom");
+    EXPECT_EQ(frm.SSPanel8.Caption.get(), " Palette");
+    EXPECT_EQ(frm.SSCommand12.ToolTipText.get(), "Paint-Brush ");
+    EXPECT_EQ(frm.SSCommand36.Caption.get(), "Tint ");
+
+    // The toolbar: 15 places, separators at 4, 6, 10 and 14.
+    ASSERT_EQ(frm.tbToolBar.Buttons.size(), 15u);
+    for (std::size_t i = 0; i < 15; ++i)
+        EXPECT_EQ(frm.tbToolBar.Buttons[i].Key.empty(), i == 3 || i == 5 || i == 9 || i == 13) << i + 1;
+    EXPECT_EQ(frm.tbToolBar.Buttons[14].ToolTipText, "Change/Select Font");
+}
+
+TEST_F(CommandSurface, TheMenuFollowsItsCheckMarkAndSomeCloseButtonsLeaveIt) {
+    // View > Palette, through the menu item as the window calls it.
+    frm.PALE.Click();
+    EXPECT_FALSE(frm.SSPanel1.Visible);
+    EXPECT_FALSE(frm.PALE.Checked);
+    frm.PALE.Click();
+    EXPECT_TRUE(frm.SSPanel1.Visible);
+    EXPECT_TRUE(frm.PALE.Checked);
+    // The palette's close button clears the mark: the menu brings the panel back at once.
+    frm.SSCommand8.Click();
+    EXPECT_FALSE(frm.SSPanel1.Visible);
+    EXPECT_FALSE(frm.PALE.Checked);
+    frm.PALE.Click();
+    EXPECT_TRUE(frm.SSPanel1.Visible);
+
+    // The tool bar's and filter bar's close buttons leave the mark: the first use of the
+    // menu item only clears it, the second shows the bar.
+    struct Pair {
+        platform::CommandButton& close;
+        platform::MenuItem& item;
+        platform::Panel& bar;
+    };
+    for (Pair p : {Pair{frm.SSCommand27, frm.ToolBar, frm.SSPanel13},
+                   Pair{frm.SSCommand42, frm.fil, frm.SSPanel15}}) {
+        SCOPED_TRACE(p.item.name());
+        p.close.Click();
+        EXPECT_FALSE(p.bar.Visible);
+        EXPECT_TRUE(p.item.Checked);
+        p.item.Click();
+        EXPECT_FALSE(p.bar.Visible);
+        EXPECT_FALSE(p.item.Checked);
+        p.item.Click();
+        EXPECT_TRUE(p.bar.Visible);
+        EXPECT_TRUE(p.item.Checked);
+    }
+
+    frm.SSPanel11.Visible = true;
+    frm.SSCommand11.Click();
+    EXPECT_FALSE(frm.SSPanel11.Visible);
+    frm.SSPanel7.Visible = true;
+    frm.Mask.Checked = true;
+    frm.SSCommand9.Click();
+    EXPECT_FALSE(frm.SSPanel7.Visible);
+    EXPECT_FALSE(frm.Mask.Checked);
+}
+
+} // namespace
+} // namespace tavrin::test
