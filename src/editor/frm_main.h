@@ -41,8 +41,38 @@ public:
     // answers is only good for the palette it was made from.
     void paletteChanged();
 
+    // ================= editor/view.cpp: the canvas and the view =================
+    void ri_Click();
+    void frmCenter();
+    void Calc_Pixels();
+    void ActualPixels_Click();
+    void Form_Resize();
+    void Form_GotFocus();
+    void SSCommand21_Click();
+    void SSCommand22_Click();
+    void SSCommand23_Click();
+    void SSCommand24_Click();
+    void SSCommand25_Click();
+    void SSCommand26_Click();
+    // The canvas repainted from picture1, stretched over the whole of it.
+    void repaintCanvas();
+    // The showing of a loaded picture, before and after the busy pointer goes off.
+    void showLoadedPictureStart();
+    void showLoadedPictureEnd(double panelExtraHeight);
+
     // ================= skinfiles/pcx_header.cpp =================
     void Get_Header();
+
+    // ================= skinfiles/pcx_reader.cpp =================
+    void pcxIm_Click();
+    void Get_PCX();
+
+    // ================= skinfiles/pcx_writer.cpp =================
+    void ex_Click();
+    void SKas_Click();
+
+    // ================= shell/toolbar.cpp =================
+    void tbToolBar_ButtonClick(const std::string& Key);
 
     // ================= shell/panels.cpp: showing and hiding the floating bars =================
     void ToolBar_Click();

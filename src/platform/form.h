@@ -2,6 +2,7 @@
 // A form: a window whose controls stand at absolute positions in twips.
 #include "platform/controls.h"
 
+#include <functional>
 #include <string>
 #include <vector>
 
@@ -15,6 +16,10 @@ public:
     Prop<int> WindowState{this, "WindowState", 0}; // 2: maximised
     Prop<int> MousePointer{this, "MousePointer", 0}; // 11: hourglass
     Prop<int> BackColor{this, "BackColor", static_cast<int>(0x8000000Fu)}; // the system's face colour
+
+    // Told by the view when the window was resized or came to the front.
+    std::function<void()> Resize;
+    std::function<void()> GotFocus;
 
     // Every control of the form, in the order they were made.
     const std::vector<Control*>& controls() const { return controls_; }

@@ -200,6 +200,12 @@ void FormWindow::resizeEvent(QResizeEvent* event) {
     QMainWindow::resizeEvent(event);
     form_.Width.setFromView(width() * 15.0);
     form_.Height.setFromView(height() * 15.0);
+    runEvent(form_.Resize);
+}
+
+void FormWindow::changeEvent(QEvent* event) {
+    QMainWindow::changeEvent(event);
+    if (event->type() == QEvent::ActivationChange && isActiveWindow()) runEvent(form_.GotFocus);
 }
 
 } // namespace platform::qt

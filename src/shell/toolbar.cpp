@@ -1,0 +1,17 @@
+// The file and font tool bar, dispatched on the button's key.
+#include "editor/frm_main.h"
+
+namespace tavrin {
+
+// A failing statement is skipped and the next one runs.
+void FrmMain::tbToolBar_ButtonClick(const std::string& Key) {
+    vb::resume([&] {
+        if (Key == "Open") pcxIm_Click();
+        else if (Key == "Save") ex_Click();
+        else if (Key == "Cut" || Key == "Copy" || Key == "Paste")
+            host_.MsgBox("Not Yet.", platform::kStyleOk);
+        // New, Print and the font buttons come with the commands they run.
+    });
+}
+
+} // namespace tavrin

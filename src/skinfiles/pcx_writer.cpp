@@ -1,0 +1,95 @@
+// Saving the skin as a PCX version 5 file, from the header, the grid and the palette
+// only. Every pixel stands alone; no palette marker byte precedes the palette.
+#include "editor/frm_main.h"
+#include "platform/vb_numeric.h"
+
+namespace tavrin {
+
+namespace {
+
+// A value that isn't a byte can't be written: the byte-at-a-time writer skipped that
+// write and left a hole, which reads back as zero.
+uint8_t byteOrHole(int v) { return v >= 0 && v <= 255 ? static_cast<uint8_t>(v) : 0; }
+
+} // namespace
+
+void FrmMain::SKas_Click() {
+    Save_As_Flag = -1;
+    ex_Click();
+}
+
+void FrmMain::ex_Click() {
+    Picture7.Visible = false;
+    CommonDialog1.KindText = "Quake 2 Skins";
+    CommonDialog1.DialogTitle = "Save Skin PCX ";
+    if (Save_As_Flag == -1) {
+        CommonDialog1.DialogTitle = "Save Skin PCX as Filename:";
+        CommonDialog1.FileName = "";
+        Save_As_Flag = 0;
+    }
+    try {
+        platform::showSave(host_, CommonDialog1);
+    } catch (const vb::Error&) {
+        Picture7.Visible = true;
+        StatusBar1.Panels(1).Text = "Ready...";
+        return;
+    }
+    const std::string chosen = CommonDialog1.FileName;
+    MousePointer = 11;
+
+    // From here a failing step is skipped and the next one runs; nothing is reported.
+    std::string target;
+    vb::resume([&] {
+        Files.CloseAll();
+        // The last four characters go, whatever they are.
+        if (chosen.size() < 4) vb::raise(vb::InvalidCall);
+        target = chosen.substr(0, chosen.size() - 4) + ".PCX";
+    });
+    vb::resume([&] {
+        if (vb::fileExists(target)) vb::Kill(target);
+    });
+    vb::resume([&] { StatusBar1.Panels(1).Text = "Exporting Image...."; });
+    vb::resume([&] { host_.DoEvents(); });
+    bool opened = false;
+    vb::resume([&] {
+        Files.OpenForWrite(2, target);
+        opened = true;
+    });
+
+    // Built in memory, byte for byte as the one-byte-at-a-time writer puts them.
+    std::vector<uint8_t> file;
+    for (int k = 1; k <= 128; ++k) file.push_back(PCX_Header(k));
+    vb::resume([&] {
+        const double width = Skin_Width.num(), height = Skin_Height.num();
+        const int64_t w = width > 0 ? static_cast<int64_t>(vb::roundHalfEven(width)) : 0;
+        const int64_t h = height > 0 ? static_cast<int64_t>(vb::roundHalfEven(height)) : 0;
+        // A grid that a failed load never made can't ask for gigabytes of zeros.
+        vb::checkAllocation(static_cast<std::size_t>(w * h), 2);
+        const int64_t cells = Skin_Grid.allocated() ? static_cast<int64_t>(Skin_Grid.size()) : 0;
+        const int16_t* grid = Skin_Grid.allocated() ? Skin_Grid.data() : nullptr;
+        file.reserve(file.size() + static_cast<std::size_t>(w * h) * 2 + 768);
+        int v = 0; // a read outside the grid is skipped: the previous value stands
+        for (int64_t at = 0; at < w * h; ++at) {
+            if (at < cells) v = grid[at];
+            if (v < 192) {
+                file.push_back(byteOrHole(v));
+            } else {
+                file.push_back(0xC1); // a run of one
+                file.push_back(byteOrHole(v));
+            }
+        }
+    });
+    for (int k = 0; k <= 255; ++k) {
+        const PalRecord& r = Pal_Table(k);
+        file.push_back(static_cast<uint8_t>(r.Red & 0xFF));
+        file.push_back(static_cast<uint8_t>(r.Green & 0xFF));
+        file.push_back(static_cast<uint8_t>(r.Blue & 0xFF));
+    }
+    if (opened) vb::resume([&] { Files.Put(2, 1, file.data(), file.size()); });
+    vb::resume([&] { Files.CloseAll(); });
+    MousePointer = 0;
+    Picture7.Visible = true;
+    StatusBar1.Panels(1).Text = "Ready...";
+}
+
+} // namespace tavrin
