@@ -1,0 +1,170 @@
+// Opening PCX skins: the decoder's rules, the command around it, files from other
+// encoders and real skins, each checked against the rules worked out byte by byte.
+#include "skinfiles/pcx_test_support.h"
+
+#include <filesystem>
+
+namespace tavrin::test {
+namespace {
+
+namespace fs = std::filesystem;
+
+struct PcxReader : EditorTest {
+    void SetUp() override {
+        installGamePalette();
+        frm.Form_Load();
+    }
+    int32_t colourOf(int index) {
+        const PalRecord& r = frm.Pal_Table(index);
+        return packed(r.Red, r.Green, r.Blue);
+    }
+    // The file loads as its rules say: sizes, every grid cell, and the picture.
+    void expectLoadedAsRules(const std::string& path) {
+        const Bytes file = readFile(path);
+        const ExpectedLoad e = expectedLoad(file);
+        openSkin(host, frm, path);
+        ASSERT_EQ(frm.Skin_Width, static_cast<double>(e.width)) << path;
+        ASSERT_EQ(frm.Skin_Height, static_cast<double>(e.ymax + 4)) << path;
+        ASSERT_EQ(frm.Skin_Grid.size(), e.grid.size()) << path;
+        for (std::size_t i = 0; i < e.grid.size(); ++i)
+            ASSERT_EQ(frm.Skin_Grid(static_cast<int64_t>(i)), e.grid[i]) << path << " cell " << i;
+        if (!e.completed) {
+            EXPECT_EQ(frm.picture1.Picture.get(), nullptr) << path;
+            return;
+        }
+        ASSERT_EQ(frm.picture1.innerWidth(), e.width - 2) << path;
+        ASSERT_EQ(frm.picture1.innerHeight(), e.ymax + 2) << path;
+        for (int y = 0; y < e.ymax + 2; y += 7)
+            for (int x = 0; x < e.width - 2; x += 3)
+                ASSERT_EQ(frm.picture1.Point(x, y), colourOf(e.grid[static_cast<std::size_t>(y * e.width + x)]))
+                    << path << " at " << x << "," << y;
+        for (int k = 0; k < 128; ++k) ASSERT_EQ(frm.PCX_Header(k + 1), file[static_cast<std::size_t>(k)]);
+    }
+};
+
+TEST_F(PcxReader, SmallSkinLoadsWithFillerRowsAndShowsOnTheCanvas) {
+    // 4 x 3 with runs that cross the ends of rows.
+    std::vector<uint8_t> px = {1, 1, 1, 1, 1, 2, 3, 200, 200, 200, 200, 4};
+    const std::string path = dir.write("small.pcx", encodePcx(4, 3, px, gamePalette()));
+    openSkin(host, frm, path);
+    EXPECT_EQ(frm.Skin_Width, 4);
+    EXPECT_EQ(frm.Skin_Height, 6);
+    EXPECT_EQ(frm.Skin_Grid.UBound(), 6 * 4 + 1000);
+    for (std::size_t i = 0; i < px.size(); ++i) EXPECT_EQ(frm.Skin_Grid(static_cast<int>(i)), px[i]);
+    for (int i = 12; i <= frm.Skin_Grid.UBound(); ++i) ASSERT_EQ(frm.Skin_Grid(i), 0) << i;
+    // Two columns short, one filler row long.
+    EXPECT_EQ(frm.picture1.innerWidth(), 2);
+    EXPECT_EQ(frm.picture1.innerHeight(), 4);
+    EXPECT_EQ(frm.picture1.Point(1, 2), colourOf(200));
+    EXPECT_EQ(frm.picture1.Point(0, 3), colourOf(0));
+    EXPECT_EQ(frm.Picture7.Point(1, 1), frm.picture1.Point(1, 1));
+    EXPECT_TRUE(frm.Picture7.Visible);
+    EXPECT_TRUE(frm.SSPanel11.Visible);
+    EXPECT_TRUE(frm.ActualPixels.Checked);
+    EXPECT_EQ(frm.Tool_Mode, "Zoom");
+    EXPECT_EQ(frm.Skin_Path, path);
+    EXPECT_EQ(frm.Image_Missing, 2);
+    EXPECT_EQ(frm.StatusBar1.Panels(1).Text.get(), "Ready...");
+    EXPECT_EQ(frm.MousePointer, 0);
+    ASSERT_EQ(host.messages().size(), 1u);
+    EXPECT_EQ(host.messages()[0].text, "Import Palette From Skin?");
+    // A second load flips the Actual Pixels mark while the panel stays open.
+    openSkin(host, frm, path);
+    EXPECT_FALSE(frm.ActualPixels.Checked);
+    EXPECT_TRUE(frm.SSPanel11.Visible);
+}
+
+TEST_F(PcxReader, RunBytesAndTheUnreadTail) {
+    Bytes file = pcxHeader(4, 1, 4);
+    for (uint8_t b : {0xC3, 0x05, 0x07, 0xC0, 0x09, 0x08}) file.push_back(b);
+    file.push_back(0x0C);
+    Bytes pal = gamePalette();
+    file.insert(file.end(), pal.begin(), pal.end());
+    openSkin(host, frm, dir.write("runs.pcx", file));
+    EXPECT_EQ(frm.Skin_Grid(0), 5);
+    EXPECT_EQ(frm.Skin_Grid(2), 5);
+    EXPECT_EQ(frm.Skin_Grid(3), 7);
+    EXPECT_EQ(frm.Skin_Grid(4), 8); // 0xC0 0x09 made no pixel
+    // The marker byte and everything behind it but the palette is data; the unread
+    // tail reads as zeros.
+    EXPECT_EQ(frm.Skin_Grid(5), 0);
+}
+
+TEST_F(PcxReader, PaletteFromTheSkinWhenTheUserSaysYes) {
+    Bytes pal = makeBytes(768, [](std::size_t k) { return static_cast<uint8_t>(k % 251); });
+    const std::string path = dir.write("own.pcx", encodePcx(4, 2, {1, 2, 3, 4, 5, 6, 7, 8}, pal));
+    openSkin(host, frm, path, true);
+    EXPECT_EQ(frm.Pal_Table(1).Red, 3);
+    EXPECT_EQ(frm.Pal_Table(255).Blue, static_cast<int>(767 % 251));
+    EXPECT_EQ(frm.Pal_Answer, "");
+    EXPECT_EQ(frm.Pal_Path, path);
+    EXPECT_EQ(frm.picture1.Point(0, 0), packed(3, 4, 5));
+}
+
+TEST_F(PcxReader, CancelAndHostileHeaders) {
+    const std::string good = dir.write("g.pcx", encodePcx(4, 2, {1, 2, 3, 4, 5, 6, 7, 8}, gamePalette()));
+    openSkin(host, frm, good);
+    host.answerOpen(std::nullopt);
+    frm.pcxIm_Click();
+    EXPECT_EQ(host.messages().back().text,
+              "There was a problem loading the file. Check the filename and/or format.");
+    EXPECT_FALSE(frm.Picture7.Visible);
+    EXPECT_EQ(frm.Skin_Grid(0), 1); // the old skin stays, and a save would write it
+
+    // Sizes no skin can have end inside the reader, silently, without gigabytes.
+    for (auto [w, h] : {std::pair{65536, 65536}, std::pair{30000, 30000}, std::pair{1, 1}}) {
+        Bytes file = pcxHeader(w, h, w & 0xFFFF);
+        const std::string path = dir.write("huge.pcx", file);
+        const std::size_t shown = host.messages().size();
+        openSkin(host, frm, path);
+        EXPECT_EQ(host.messages().size(), shown + 1) << w; // only the palette question
+        EXPECT_EQ(frm.StatusBar1.Panels(1).Text.get(), "Ready...");
+        EXPECT_EQ(frm.picture1.Picture.get(), nullptr);
+    }
+    // The reader left its file open: a tail read of the palette now can't open it.
+    openSkin(host, frm, good, true);
+    EXPECT_EQ(host.messages().back().text, "Path/File not found, or not a valid file.");
+}
+
+TEST_F(PcxReader, WideSkinFillsTheGridButLeavesThePictureEmpty) {
+    // Past 442 columns the filler rows need more cells than lie behind the data.
+    std::vector<uint8_t> px(512 * 4, 9);
+    openSkin(host, frm, dir.write("wide.pcx", encodePcx(512, 4, px, gamePalette())));
+    EXPECT_EQ(frm.Skin_Grid(512 * 4 - 1), 9);
+    EXPECT_EQ(frm.picture1.Picture.get(), nullptr);
+    EXPECT_TRUE(frm.Picture7.Visible);
+    // A padded odd row shifts every next row by one more pixel.
+    std::vector<uint8_t> odd(5 * 3);
+    for (std::size_t i = 0; i < odd.size(); ++i) odd[i] = static_cast<uint8_t>(i + 1);
+    const std::string path = dir.write("odd.pcx", encodePcx(5, 3, odd, gamePalette(), 6, true, 0xEE));
+    expectLoadedAsRules(path);
+    EXPECT_EQ(frm.Skin_Grid(5), 0xEE);
+}
+
+TEST_F(PcxReader, FilesFromOtherEncoders) {
+    for (const char* name : {"odd-width-7x5.pcx", "xmin5-ymin3.pcx", "tall-4x2200.pcx", "short-600.pcx"})
+        expectLoadedAsRules(std::string(TAVRIN_TEST_DATA) + "/" + name);
+    // Xmin is not subtracted: 5 + 6 columns wide.
+    EXPECT_EQ(expectedLoad(readFile(std::string(TAVRIN_TEST_DATA) + "/xmin5-ymin3.pcx")).width, 11);
+}
+
+TEST_F(PcxReader, RealSkins) {
+    const fs::path root = fs::path(TAVRIN_REALDATA);
+    if (!fs::exists(root)) GTEST_SKIP() << "no real files at " << root;
+    int loaded = 0, wide = 0;
+    for (const auto& entry : fs::recursive_directory_iterator(root)) {
+        std::string ext = entry.path().extension().string();
+        for (char& c : ext) c = static_cast<char>(std::tolower(static_cast<unsigned char>(c)));
+        if (ext != ".pcx") continue;
+        const Bytes file = readFile(entry.path().string());
+        if (file.size() < 128 || file[3] != 8 || file[65] != 1) continue; // 8-bit, one plane
+        expectLoadedAsRules(entry.path().string());
+        ++loaded;
+        if (expectedLoad(file).width > 442) ++wide;
+    }
+    EXPECT_GT(loaded, 0);
+    EXPECT_GT(wide, 0);
+}
+
+} // namespace
+} // namespace tavrin::test

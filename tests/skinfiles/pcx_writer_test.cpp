@@ -1,0 +1,94 @@
+// Saving: the header as it stands, every pixel alone with 0xC1 before values of 192 and
+// above, the current palette, no marker; the target's name and the silent failures.
+#include "skinfiles/pcx_test_support.h"
+
+namespace tavrin::test {
+namespace {
+
+struct PcxWriter : EditorTest {
+    void SetUp() override {
+        installGamePalette();
+        frm.Form_Load();
+    }
+    // What a save must write for the editor as it stands.
+    Bytes expectedFile() {
+        Bytes out;
+        for (int k = 1; k <= 128; ++k) out.push_back(frm.PCX_Header(k));
+        const int w = static_cast<int>(frm.Skin_Width.num()), h = static_cast<int>(frm.Skin_Height.num());
+        for (int i = 0; i < w * h; ++i) {
+            const int v = frm.Skin_Grid(i);
+            if (v >= 192) out.push_back(0xC1);
+            out.push_back(static_cast<uint8_t>(v));
+        }
+        for (int k = 0; k < 256; ++k) {
+            out.push_back(static_cast<uint8_t>(frm.Pal_Table(k).Red));
+            out.push_back(static_cast<uint8_t>(frm.Pal_Table(k).Green));
+            out.push_back(static_cast<uint8_t>(frm.Pal_Table(k).Blue));
+        }
+        return out;
+    }
+};
+
+TEST_F(PcxWriter, LoadThenSaveWritesHeaderGridWithEscapesAndPalette) {
+    std::vector<uint8_t> px = {0, 191, 192, 255, 7, 7, 7, 7, 200, 1, 2, 3};
+    Bytes source = encodePcx(4, 3, px, gamePalette());
+    openSkin(host, frm, dir.write("in.pcx", source));
+    host.answerSave(dir.file("out.bmp"));
+    frm.SKas_Click();
+    const Bytes saved = readFile(dir.file("out.PCX"));
+    EXPECT_EQ(saved, expectedFile());
+    EXPECT_TRUE(std::equal(source.begin(), source.begin() + 128, saved.begin()));
+    // 4 x (2 + 4) pixels, three of them escaped, straight after the header.
+    EXPECT_EQ(saved.size(), 128u + 24 + 3 + 768);
+    EXPECT_EQ(Bytes(saved.begin() + 128, saved.begin() + 134), (Bytes{0, 191, 0xC1, 192, 0xC1, 255}));
+    EXPECT_EQ(frm.Save_As_Flag, 0);
+    EXPECT_EQ(frm.CommonDialog1.DialogTitle.get(), "Save Skin PCX as Filename:");
+    EXPECT_TRUE(frm.Picture7.Visible);
+    EXPECT_EQ(frm.StatusBar1.Panels(1).Text.get(), "Ready...");
+}
+
+TEST_F(PcxWriter, TargetNameAndWhatStandsThereBefore) {
+    openSkin(host, frm, dir.write("in.pcx", encodePcx(2, 1, {5, 6}, gamePalette())));
+    // An older, longer file of the same name leaves nothing behind.
+    dir.write("skin.PCX", Bytes(5000, 0xAA));
+    host.answerSave(dir.file("skin.pcx"));
+    frm.ex_Click();
+    EXPECT_EQ(readFile(dir.file("skin.PCX")), expectedFile());
+    // Save proposes the last name; a name without an extension loses four letters.
+    EXPECT_EQ(frm.CommonDialog1.DialogTitle.get(), "Save Skin PCX ");
+    host.answerSave(dir.file("abcdefgh"));
+    frm.ex_Click();
+    EXPECT_TRUE(std::filesystem::exists(dir.file("abcd.PCX")));
+    // Cancel writes nothing and says nothing.
+    const std::size_t shown = host.messages().size();
+    host.answerSave(std::nullopt);
+    frm.ex_Click();
+    EXPECT_EQ(host.messages().size(), shown);
+    EXPECT_TRUE(frm.Picture7.Visible);
+    // A folder that isn't there: skipped step by step, "Ready..." all the same.
+    host.answerSave(dir.file("no/such/place.pcx"));
+    frm.ex_Click();
+    EXPECT_EQ(host.messages().size(), shown);
+    EXPECT_EQ(frm.StatusBar1.Panels(1).Text.get(), "Ready...");
+}
+
+TEST_F(PcxWriter, NoSkinGivesHeaderAndPaletteOnly) {
+    host.answerSave(dir.file("empty.pcx"));
+    frm.ex_Click();
+    const Bytes saved = readFile(dir.file("empty.PCX"));
+    ASSERT_EQ(saved.size(), 896u);
+    EXPECT_EQ(saved[8], 0x1B); // the default header's Xmax
+}
+
+TEST_F(PcxWriter, IndicesThatAreNoByteLeaveAHole) {
+    openSkin(host, frm, dir.write("in.pcx", encodePcx(2, 1, {5, 6}, gamePalette())));
+    frm.Skin_Grid(0) = 256; // from a palette longer than 256 colours
+    frm.Skin_Grid(1) = -3;
+    host.answerSave(dir.file("odd.pcx"));
+    frm.ex_Click();
+    const Bytes saved = readFile(dir.file("odd.PCX"));
+    EXPECT_EQ(Bytes(saved.begin() + 128, saved.begin() + 131), (Bytes{0xC1, 0, 0}));
+}
+
+} // namespace
+} // namespace tavrin::test
