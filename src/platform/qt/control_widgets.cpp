@@ -4,6 +4,7 @@
 #include "platform/qt/dispatch.h"
 #include "platform/qt/picture_widget.h"
 
+#include <QApplication>
 #include <QFrame>
 #include <QLabel>
 #include <QLineEdit>
@@ -142,7 +143,13 @@ void updateControlWidget(Control& control, QWidget* widget) {
         auto& c = static_cast<CommandButton&>(control);
         auto* b = static_cast<QPushButton*>(widget);
         QString caption = qs(c.Caption);
-        b->setText(caption.isEmpty() ? toolGlyph(c.ToolTipText) : caption);
+        if (caption.isEmpty()) {
+            caption = toolGlyph(c.ToolTipText);
+            QFont small = QApplication::font(b); // not b->font(): updates come often
+            small.setPointSizeF(small.pointSizeF() * 0.8);
+            b->setFont(small);
+        }
+        b->setText(caption);
         b->setToolTip(qs(c.ToolTipText));
         break;
     }
