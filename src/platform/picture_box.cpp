@@ -107,7 +107,7 @@ void PictureBox::geometryChanged(const TwipsProp& prop) {
     if (design_.autoRedraw && old) { // what was drawn stays where the box still has room
         Raster& r = *image_;
         int cw = std::min(old->width, w), ch = std::min(old->height, h);
-        for (int y = 0; y < ch; ++y)
+        for (int y = 0; cw > 0 && y < ch; ++y)
             std::copy_n(&old->px[static_cast<std::size_t>(y) * old->width], cw,
                         &r.px[static_cast<std::size_t>(y) * w]);
     }
@@ -125,7 +125,7 @@ void PictureBox::resetImage() {
     auto r = std::make_shared<Raster>(innerW_, innerH_, rgb24(BackColor));
     if (picture_) {
         int cw = std::min(picture_->width, innerW_), ch = std::min(picture_->height, innerH_);
-        for (int y = 0; y < ch; ++y)
+        for (int y = 0; cw > 0 && y < ch; ++y)
             std::copy_n(&picture_->px[static_cast<std::size_t>(y) * picture_->width], cw,
                         &r->px[static_cast<std::size_t>(y) * innerW_]);
     }
