@@ -9,6 +9,7 @@
 #include "platform/raster.h"
 
 #include <cstdint>
+#include <functional>
 #include <variant>
 #include <vector>
 
@@ -76,6 +77,16 @@ public:
     PictureHandle Image() const;
     void Cls();
     void Refresh();
+
+    // The mouse on the box, as the form's events give it: Button 1 left, 2 right, 4 middle
+    // (in a move, the buttons held, summed); Shift 1 Shift, 2 Ctrl, 4 Alt, summed; X and
+    // Y in the box's scale. Set by the editor; the view calls them.
+    using MouseHandler = std::function<void(int16_t Button, int16_t Shift, float X, float Y)>;
+    MouseHandler MouseDown, MouseMove, MouseUp;
+
+    // A position in pixels of the inner area, in the box's scale.
+    double scaleX(double pixels) const { return pixels * unitsPerPixel(true); }
+    double scaleY(double pixels) const { return pixels * unitsPerPixel(false); }
 
     // ---- for views and tests ----
     bool autoRedraw() const { return design_.autoRedraw; }

@@ -16,8 +16,13 @@ public:
 
 protected:
     void paintEvent(QPaintEvent* event) override;
+    void mousePressEvent(QMouseEvent* event) override;
+    void mouseMoveEvent(QMouseEvent* event) override;
+    void mouseReleaseEvent(QMouseEvent* event) override;
 
 private:
+    void sendMouse(const PictureBox::MouseHandler& handler, int button, QMouseEvent* event);
+
     PictureBox& box_;
     uint64_t shownVersion_ = ~uint64_t{0};
 };
