@@ -58,7 +58,8 @@ public:
     void repaintCanvas();
     // The showing of a loaded picture, before and after the busy pointer goes off.
     void showLoadedPictureStart();
-    void showLoadedPictureEnd(double panelExtraHeight);
+    // betweenCenters: what runs between the two centrings (a new skin takes its grid there).
+    void showLoadedPictureEnd(double panelExtraHeight, void (FrmMain::*betweenCenters)() = nullptr);
 
     // ================= skinfiles/pcx_header.cpp =================
     void Get_Header();
@@ -70,6 +71,34 @@ public:
     // ================= skinfiles/pcx_writer.cpp =================
     void ex_Click();
     void SKas_Click();
+
+    // ================= model/md2_reader.cpp: what the editor reads of a model =================
+    void Get_Frame();
+    void Import_Frame();
+    // The readers' common part: fresh tables, the header, both lumps. sizePicture1 gives
+    // picture1 the model's skin size between the header and the lumps, as Get_Frame does.
+    void readModel(bool sizePicture1);
+
+    // ================= model/wireframe.cpp: the model's mesh over the canvas =================
+    void Draw_Frame();
+    void wF_Click();
+    void wiPop_Click();
+    void UCW_Click();
+    void wFc_Click();
+    void bcolor_Click();
+    // Three lines a triangle on box, the corners times zoom; raises at the first corner
+    // index that the tables don't hold.
+    void drawModelLines(PictureBox& box, double zoom, int32_t color);
+    // Tri_Table and UV_Table cut down to the single record 0.
+    void dropModelTables();
+
+    // ================= model/new_skin.cpp: a new skin from a model =================
+    void NewSkin_Click();
+    void Get_NewSkin();
+
+    // ================= model/attributes.cpp: the attribute messages =================
+    void ia_Click();
+    void ma_Click();
 
     // ================= shell/toolbar.cpp =================
     void tbToolBar_ButtonClick(const std::string& Key);

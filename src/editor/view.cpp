@@ -47,7 +47,7 @@ void FrmMain::showLoadedPictureStart() {
     Calc_Pixels();
 }
 
-void FrmMain::showLoadedPictureEnd(double panelExtraHeight) {
+void FrmMain::showLoadedPictureEnd(double panelExtraHeight, void (FrmMain::*betweenCenters)()) {
     Picture7.Top = picture1.Height + picture1.Top + 200;
     Picture7.Left = picture1.Left;
     Skin_Cols = static_cast<float>(picture1.ScaleWidth);
@@ -62,7 +62,8 @@ void FrmMain::showLoadedPictureEnd(double panelExtraHeight) {
     repaintCanvas();
     host_.DoEvents();
     frmCenter();
-    Tool_Mode = "Zoom";
+    if (betweenCenters) (this->*betweenCenters)();
+    else Tool_Mode = "Zoom";
     frmCenter();
     Tool_Mode = "Zoom";
     SSPanel3.Caption = "Zoom";

@@ -14,7 +14,7 @@ const std::vector<MenuSpec>& menuTable() {
     static const std::vector<MenuSpec> table = {
         // item            lvl caption                              shortcut  checked visible enabled handler
         {&F::File,          0, "&File",                              "",       off, on,  on,  nullptr},
-        {&F::NewSkin,       1, "&New Skin",                          "",       off, on,  on,  nullptr},
+        {&F::NewSkin,       1, "&New Skin",                          "",       off, on,  on,  &F::NewSkin_Click},
         {&F::im,            1, "&Open Skin",                         "",       off, on,  on,  nullptr},
         {&F::pcxIm,         2, "&PCX File",                          "",       off, on,  on,  &F::pcxIm_Click},
         {&F::MD2Im,         2, "&MD2 File",                          "",       off, off, off, nullptr},
@@ -43,8 +43,8 @@ const std::vector<MenuSpec>& menuTable() {
         {&F::ToolBar,       1, "&Tool Bar",                          "",       on,  on,  on,  &F::ToolBar_Click},
         {&F::fil,           1, "&Filter Bar",                        "",       on,  on,  on,  &F::fil_Click},
         {&F::s3,            1, "-",                                  "",       off, on,  on,  nullptr},
-        {&F::wF,            1, "&Wire Frame",                        "Ctrl+W", off, on,  on,  nullptr},
-        {&F::UCW,           1, "&Unload Current Wireframe",          "",       off, on,  on,  nullptr},
+        {&F::wF,            1, "&Wire Frame",                        "Ctrl+W", off, on,  on,  &F::wF_Click},
+        {&F::UCW,           1, "&Unload Current Wireframe",          "",       off, on,  on,  &F::UCW_Click},
         {&F::tools,         0, "&Tools",                             "",       off, on,  on,  nullptr},
         {&F::mZoom,         1, "&Zoom",                              "Ctrl+Q", off, on,  on,  nullptr},
         {&F::Eye,           1, "&Eye-Dropper",                       "Ctrl+E", off, on,  on,  nullptr},
@@ -77,11 +77,11 @@ const std::vector<MenuSpec>& menuTable() {
         {&F::gd,            2, "&Dark",                              "",       off, on,  on,  nullptr},
         {&F::gl,            2, "&Light",                             "",       on,  on,  on,  nullptr},
         {&F::s4,            1, "-",                                  "",       off, on,  on,  nullptr},
-        {&F::wFc,           1, "&Wire Frame Color",                  "",       off, on,  on,  nullptr},
-        {&F::bcolor,        1, "&Background Color",                  "",       off, on,  on,  nullptr},
+        {&F::wFc,           1, "&Wire Frame Color",                  "",       off, on,  on,  &F::wFc_Click},
+        {&F::bcolor,        1, "&Background Color",                  "",       off, on,  on,  &F::bcolor_Click},
         {&F::s9,            1, "-",                                  "",       off, on,  on,  nullptr},
-        {&F::ia,            1, "&Image Attributes",                  "",       off, on,  on,  nullptr},
-        {&F::ma,            1, "&Model Attributes",                  "",       off, on,  on,  nullptr},
+        {&F::ia,            1, "&Image Attributes",                  "",       off, on,  on,  &F::ia_Click},
+        {&F::ma,            1, "&Model Attributes",                  "",       off, on,  on,  &F::ma_Click},
         {&F::Mode,          0, "&Mode",                              "",       off, off, on,  nullptr},
         {&F::Cl256,         1, "&Edit in 256 Color ",                "",       on,  on,  off, nullptr},
         {&F::CLhigh,        1, "&Edit in High-Color",                "",       off, on,  off, nullptr},
@@ -109,7 +109,7 @@ const std::vector<MenuSpec>& menuTable() {
         {&F::liPop,         1, "Lighten",                            "",       off, on,  on,  nullptr},
         {&F::shPop,         1, "Sharpen",                            "",       off, on,  on,  nullptr},
         {&F::spacer12,      1, "-",                                  "",       off, on,  on,  nullptr},
-        {&F::wiPop,         1, "Wireframe",                          "",       off, on,  on,  nullptr},
+        {&F::wiPop,         1, "Wireframe",                          "",       off, on,  on,  &F::wiPop_Click},
     };
     // clang-format on
     return table;

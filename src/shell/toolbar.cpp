@@ -6,11 +6,12 @@ namespace tavrin {
 // A failing statement is skipped and the next one runs.
 void FrmMain::tbToolBar_ButtonClick(const std::string& Key) {
     vb::resume([&] {
-        if (Key == "Open") pcxIm_Click();
+        if (Key == "New") NewSkin_Click();
+        else if (Key == "Open") pcxIm_Click();
         else if (Key == "Save") ex_Click();
         else if (Key == "Cut" || Key == "Copy" || Key == "Paste")
             host_.MsgBox("Not Yet.", platform::kStyleOk);
-        // New, Print and the font buttons come with the commands they run.
+        // Print and the font buttons come with the commands they run.
     });
 }
 

@@ -1,0 +1,91 @@
+// A new skin from a model: a black picture of the size the model's header asks for, the
+// triangles on it in white, and a grid of 0 and 15 taken back from that picture. The
+// model itself is dropped at the end; its lines live on as pixels.
+#include "editor/frm_main.h"
+#include "platform/vb_numeric.h"
+
+namespace tavrin {
+
+void FrmMain::NewSkin_Click() {
+    StatusBar1.Panels(1).Text = "Select Image";
+    try {
+        // The old picture goes before the dialog opens, also if the user cancels.
+        Picture7.Picture = nullptr;
+        picture1.Picture = nullptr;
+        Picture7.Visible = false;
+        picture1.Visible = false;
+        picture1.Refresh();
+        CommonDialog1.FileName = "*.MD2";
+        CommonDialog1.Pattern = "*.MD2";
+        CommonDialog1.DialogTitle = "New Skin From Base MD2 Wireframe.";
+        CommonDialog1.KindText = "Quake 2 Model Files";
+        Image_Missing = 2;
+        Zoom_Factor = 1;
+        Pixel_Width = 0;
+        Scale_X = 1;
+        Pixel_Height = 0;
+        Scale_Y = 1;
+        platform::showOpen(host_, CommonDialog1);
+        File_Name = CommonDialog1.FileName;
+        Model_Path = File_Name;
+        host_.DoEvents();
+        StatusBar1.Panels(1).Text = "Importing Image...";
+        Erase_Array();
+        Get_Frame();
+        showLoadedPictureStart();
+        showLoadedPictureEnd(400, &FrmMain::Get_NewSkin);
+        StatusBar1.Panels(1).Text = "Ready";
+        dropModelTables();
+        Wire_Loaded = 0;
+        wF.Checked = false;
+        wiPop.Checked = false;
+    } catch (const vb::Error&) {
+        // Wire_Loaded, the menu marks, Skin_Grid and the hidden boxes stay as the failure
+        // left them.
+        dropModelTables();
+        host_.MsgBox("There was a problem loading the file. Check the filename and/or format.",
+                     platform::kStyleOk);
+        StatusBar1.Panels(1).Text = "Ready";
+    }
+}
+
+// The size and the grid come from picture1 as Get_Frame left it. A failure here leaves
+// the hourglass up: the caller's error path doesn't take it down.
+void FrmMain::Get_NewSkin() {
+    MousePointer = 11;
+    Skin_Height = Skin_Rows;
+    Skin_Width = Skin_Cols;
+    const int32_t upper = vb::CLng(Skin_Width.num() * Skin_Height.num() + 1000);
+    Skin_Grid.ReDim(0, upper);
+    Undo_Grid.ReDim(0, upper);
+
+    // Xmax and Ymax only; bytes per line and the rest stay as the last header left them.
+    const double W = Skin_Cols.num();
+    const int H = Skin_Rows;
+    if (Skin_Width.num() > 256) {
+        PCX_Header(10) = vb::CByte(vb::Int((W - 1) / 256));
+        // Right for 257 to 512 only; a wider skin fails here, after it is on the screen.
+        PCX_Header(9) = vb::CByte((W - 1) - 256);
+    } else {
+        PCX_Header(9) = vb::CByte(W - 1);
+        PCX_Header(10) = 0;
+    }
+    PCX_Header(11) = static_cast<uint8_t>((H - 1) & 0xFF);
+    PCX_Header(12) = static_cast<uint8_t>(((H - 1) >> 8) & 0xFF);
+
+    // Black stays 0, anything else is a line: 15, whatever colour the palette gives it.
+    const double cols = Skin_Cols.num();
+    for (double y = 0; y <= Skin_Rows - 1; ++y) {
+        for (double x = 0; x <= cols - 1; ++x) {
+            Cur_Color = picture1.Point(x, y);
+            if (Cur_Color == 0) Skin_Grid(y * cols + x) = 0;
+            else if (Cur_Color != -1) Skin_Grid(y * cols + x) = 15;
+        }
+    }
+    MousePointer = 0;
+    host_.MsgBox("Tavrin Recommends that you now save this wireframe as a PCX file for optimal "
+                 "performance. Painting on the MD2 wireframe can be extremely slow.",
+                 platform::kStyleOk);
+}
+
+} // namespace tavrin

@@ -1,0 +1,113 @@
+// The model's mesh laid over the canvas. It lives on Picture7 alone: never in picture1,
+// never in Skin_Grid, never saved, and every repaint of the canvas wipes it, so it is
+// drawn again at the end of each mouse-up while it is shown.
+#include "editor/frm_main.h"
+#include "platform/vb_numeric.h"
+
+namespace tavrin {
+
+void FrmMain::drawModelLines(PictureBox& box, double zoom, int32_t color) {
+    for (int64_t i = 0; i < int64_t{MD2_Num_Tris}; ++i) {
+        const TriRecord& tri = Tri_Table(i);
+        const UVRecord& a = UV_Table(tri.A);
+        const UVRecord& b = UV_Table(tri.B);
+        const UVRecord& c = UV_Table(tri.C);
+        // Shared edges are drawn once for each triangle, in the file's order.
+        box.Line(zoom * a.S, zoom * a.T, zoom * b.S, zoom * b.T, color, platform::kLineKind);
+        box.Line(zoom * b.S, zoom * b.T, zoom * c.S, zoom * c.T, color, platform::kLineKind);
+        box.Line(zoom * c.S, zoom * c.T, zoom * a.S, zoom * a.T, color, platform::kLineKind);
+    }
+}
+
+// Lines of the canvas's own description, one pixel wide at any zoom: no zoomed raster is
+// made, so a mouse-up over a large model stays cheap. Skin pixels times Zoom_Factor,
+// whatever Scale_X, Scale_Y and the skin's size say.
+void FrmMain::Draw_Frame() {
+    try {
+        // Tables cut down to record 0 are a dropped model, not a triangle at the origin.
+        if (!Tri_Table.allocated() || Tri_Table.UBound() == 0) return;
+        drawModelLines(Picture7, Zoom_Factor, vb::CLng(Wire_Color));
+    } catch (const vb::Error&) {
+        // The lines drawn before a bad corner index stay.
+    }
+}
+
+void FrmMain::dropModelTables() {
+    Tri_Table.ReDim(0, 0);
+    UV_Table.ReDim(0, 0);
+}
+
+// Import, hide, show; the first test that holds decides. A cancelled dialog or a failed
+// import ends it without a word.
+void FrmMain::wF_Click() {
+    try {
+        if (Wire_Loaded == 0) {
+            StatusBar1.Panels(1).Text = "Select Image";
+            CommonDialog1.FileName = "*.MD2";
+            CommonDialog1.Pattern = "*.MD2";
+            CommonDialog1.DialogTitle = "Import Base MD2 Wireframe.";
+            CommonDialog1.KindText = "Quake 2 Model Files";
+            platform::showOpen(host_, CommonDialog1);
+            File_Name = CommonDialog1.FileName;
+            Model_Path = File_Name;
+            host_.DoEvents();
+            // Still says so after the import: nothing sets it back.
+            StatusBar1.Panels(1).Text = "Importing Image...";
+            Import_Frame();
+            wF.Checked = true;
+            wiPop.Checked = true;
+            Wire_Shown = 1;
+        } else if (Wire_Shown == 1) {
+            wF.Checked = false;
+            wiPop.Checked = false;
+            Wire_Shown = 2;
+            Picture7.Refresh();
+            repaintCanvas();
+            host_.DoEvents();
+        } else if (Wire_Shown == 2) {
+            wF.Checked = true;
+            wiPop.Checked = true;
+            Wire_Shown = 1;
+            Draw_Frame();
+        } else {
+            // Only after an import that failed: this click resets, the next one asks.
+            Wire_Loaded = 0;
+        }
+    } catch (const vb::Error&) {
+    }
+}
+
+void FrmMain::wiPop_Click() { wF_Click(); }
+
+// Wire_Shown stays as it was; the next import sets it.
+void FrmMain::UCW_Click() {
+    dropModelTables();
+    Wire_Loaded = 0;
+    wF.Checked = false;
+    wiPop.Checked = false;
+    repaintCanvas();
+    host_.DoEvents();
+}
+
+// Both colour commands draw the lines even while the overlay is hidden: they stand until
+// the next repaint and the menu mark stays off. That is meant.
+void FrmMain::wFc_Click() {
+    try {
+        platform::showColor(host_, CommonDialog1);
+        Wire_Color = CommonDialog1.Color.get();
+        Draw_Frame();
+    } catch (const vb::Error&) {
+    }
+}
+
+// The window's colour round the canvas; nothing to do with the skin or the palette.
+void FrmMain::bcolor_Click() {
+    try {
+        platform::showColor(host_, CommonDialog1);
+        BackColor = CommonDialog1.Color.get();
+        Draw_Frame();
+    } catch (const vb::Error&) {
+    }
+}
+
+} // namespace tavrin
