@@ -1,0 +1,54 @@
+#pragma once
+// MD2 files written by the tests, and an editor ready to make skins and overlays of them.
+#include "support/test_support.h"
+
+#include <array>
+
+namespace tavrin::test {
+
+struct Md2 {
+    int32_t skinWidth = 16, skinHeight = 16;
+    std::vector<std::array<int16_t, 2>> st{};   // s, t
+    std::vector<std::array<int16_t, 3>> tris{}; // texture coordinate indices
+    int32_t numSt = -1, numTris = -1;           // -1: as many as st and tris hold
+
+    // Header, then the coordinates, then the triangles.
+    Bytes bytes() const {
+        const std::size_t stAt = 68, trisAt = stAt + 4 * st.size();
+        Bytes out(trisAt + 12 * tris.size());
+        auto put = [&](std::size_t at, int32_t v, int width) {
+            for (int k = 0; k < width; ++k) out[at + k] = static_cast<uint8_t>(v >> (8 * k));
+        };
+        const int32_t header[17] = {0x32504449, 8, skinWidth, skinHeight, 0, 1, 3,
+                                    numSt >= 0 ? numSt : static_cast<int32_t>(st.size()),
+                                    numTris >= 0 ? numTris : static_cast<int32_t>(tris.size()), 0, 1, 68,
+                                    int32_t(stAt), int32_t(trisAt), 68, 68, int32_t(out.size())};
+        for (int k = 0; k < 17; ++k) put(4 * k, header[k], 4);
+        for (std::size_t i = 0; i < st.size(); ++i) put(stAt + 4 * i, st[i][0], 2), put(stAt + 4 * i + 2, st[i][1], 2);
+        for (std::size_t i = 0; i < tris.size(); ++i)
+            for (int k = 0; k < 3; ++k) put(trisAt + 12 * i + 6 + 2 * k, tris[i][k], 2);
+        return out;
+    }
+};
+
+inline const std::string kLoadProblem = "There was a problem loading the file. Check the filename and/or format.";
+
+struct ModelTest : EditorTest {
+    void SetUp() override {
+        installGamePalette();
+        frm.Form_Load();
+    }
+    std::string write(const Md2& model, const std::string& name = "model.md2") {
+        return dir.write(name, model.bytes());
+    }
+    void newSkin(const std::string& path) {
+        host.answerOpen(path);
+        frm.NewSkin_Click();
+    }
+    const std::string& lastMessage() { return host.messages().back().text; }
+    std::vector<int> sizeBytes() {
+        return {frm.PCX_Header(9), frm.PCX_Header(10), frm.PCX_Header(11), frm.PCX_Header(12)};
+    }
+};
+
+} // namespace tavrin::test
