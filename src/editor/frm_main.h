@@ -111,6 +111,51 @@ public:
     void SSCommand11_Click();
     void SSCommand9_Click();
 
+    // ================= editor/undo.cpp: one level of undo =================
+    void Undo_Click();
+    // The grid half of the snapshot that a press on the canvas takes.
+    void takeGridSnapshot();
+
+    // ================= tools/canvas_mouse.cpp: the canvas's three mouse events =================
+    void Picture7_MouseDown(int16_t Button, int16_t Shift, float X, float Y);
+    void Picture7_MouseMove(int16_t Button, int16_t Shift, float X, float Y);
+    void Picture7_MouseUp(int16_t Button, int16_t Shift, float X, float Y);
+    // Cur_R, Cur_G, Cur_B snapped to the palette: Paint_Color and Color_Index.
+    void workOutPaintColor();
+    // The pointer's skin pixel into Cur_X, Cur_Y.
+    void convertPosition(float X, float Y);
+    bool pressNearCanvasEdge(float X, float Y) const;
+    void panCanvas(float X, float Y);
+    // The mouse-up's last step: brings the wireframe back once the overlay exists.
+    void redrawWireframeAfterMouseUp();
+
+    // ================= tools/paint_brushes.cpp: pencil, paint brush, brush size =================
+    void pencilAt(float X, float Y);
+    void paintBrushAt(float X, float Y);
+    // Color_Index into the skin pixel's cell; raises outside the array's bounds.
+    void storeSkinPixel(double x, double y);
+    void p1_Click();
+    void p9_Click();
+    void setBrushSize(bool ninePixels);
+
+    // ================= tools/zoom.cpp =================
+    void zoomStep(int16_t Button);
+
+    // ================= palette/color_pick.cpp: picking the current colour =================
+    void Picture2_MouseDown(int16_t Button, int16_t Shift, float X, float Y);
+    void Picture2_MouseUp(int16_t Button, int16_t Shift, float X, float Y);
+    void Get_Next_Color();
+    // The eye-dropper: the canvas pixel under the pointer becomes the current colour.
+    void eyeDropperPick(float X, float Y);
+    // Moves the XOR marker in Picture2 to the cell of Color_Index and shows its numbers.
+    void markPickedColor();
+
+    // ================= palette/tint_value.cpp: the tint value panel =================
+    void Slider1_Change();
+    void tValue_Click();
+    void SSCommand39_Click();
+    void makeTintSamples();
+
     // ---------------- Skin and files ----------------
     vb::Array<int16_t> Skin_Grid;  // one palette index per skin pixel, y * Skin_Width + x
     vb::Array<int16_t> Undo_Grid;  // the grid as the last press on the canvas found it
@@ -408,6 +453,14 @@ public:
     TAVRIN_CONTROL(MenuItem, wiPop);
 #undef TAVRIN_CONTROL
 #undef TAVRIN_PICTURE
+
+    // ================= tools/event_wiring.cpp =================
+    // The events that carry arguments (mouse, slider), connected as the form is made.
+    // Declared after the controls so that they exist by then.
+    struct EventWiring {
+        explicit EventWiring(FrmMain& frm);
+    };
+    EventWiring eventWiring_{*this};
 
 private:
     // shell/command_surface.cpp: applies the command tables to the controls.

@@ -1,0 +1,188 @@
+// The canvas's three mouse events: the frame that every painting tool runs in. Each
+// event works out the paint colour anew, turns the pointer into a skin pixel through
+// the scale, runs the branch of the tool word and repaints the canvas from picture1.
+// A tool is only a word: each handler tests it in one chain, in its own order.
+#include "editor/frm_main.h"
+#include "platform/vb_numeric.h"
+
+#include <cmath>
+
+namespace tavrin {
+
+namespace {
+
+// A canvas position over the scale, floored, so that a position left of the canvas
+// gives a negative column. The pointer's position is single precision and so is the
+// zoom's scale, which makes the quotient single precision too.
+Variant skinPixel(float pos, const Variant& scale) {
+    if (scale.kind() == Variant::Kind::Double) {
+        const double s = scale.num();
+        if (s == 0) vb::raise(pos == 0 ? vb::Overflow : vb::DivisionByZero);
+        const double q = std::floor(pos / s);
+        if (!std::isfinite(q)) vb::raise(vb::Overflow);
+        return Variant(q);
+    }
+    const auto s = static_cast<float>(scale.num());
+    if (s == 0) vb::raise(pos == 0 ? vb::Overflow : vb::DivisionByZero);
+    const float q = std::floor(pos / s);
+    if (!std::isfinite(q)) vb::raise(vb::Overflow);
+    return Variant(q);
+}
+
+} // namespace
+
+void FrmMain::workOutPaintColor() {
+    Check_Color = vb::RGB(vb::CInt(Cur_R), vb::CInt(Cur_G), vb::CInt(Cur_B));
+    Temp_Color_Check();
+    Paint_Color = Check_Color;
+}
+
+void FrmMain::convertPosition(float X, float Y) {
+    Cur_X = skinPixel(X, Scale_X);
+    Cur_Y = skinPixel(Y, Scale_Y);
+}
+
+// Only a press is tested: a stroke in progress paints right up to the edge and beyond.
+bool FrmMain::pressNearCanvasEdge(float X, float Y) const {
+    return Picture7.Point(X, Y) == -1 || Picture7.Point(X - 3, Y) == -1 ||
+           Picture7.Point(X, Y - 3) == -1 || Picture7.Point(X + 3, Y) == -1 ||
+           Picture7.Point(X, Y + 3) == -1;
+}
+
+// The canvas moves under the pointer, so the point grabbed stays under it and X comes
+// back to Pan_X: the press's position is kept, never updated.
+void FrmMain::panCanvas(float X, float Y) {
+    if (Pan_X == static_cast<double>(X) && Pan_Y == static_cast<double>(Y)) return;
+    Picture7.Left += 15 * (X - Pan_X.num()); // the control's position is in twips
+    Picture7.Top += 15 * (Y - Pan_Y.num());
+    Refresh();
+    repaintCanvas();
+    host_.DoEvents();
+}
+
+// Any failure ends the press where it stands, without the repaint.
+void FrmMain::Picture7_MouseDown(int16_t Button, int16_t Shift, float X, float Y) {
+    try {
+        if (Button == 2 && Shift == 1) {
+            eyeDropperPick(X, Y);
+            return;
+        }
+        // The zoom tool keeps the right button for zooming out.
+        if (Button == 2 && Tool_Mode != "Zoom") {
+            host_.PopupMenu(Pop);
+            return;
+        }
+        takeGridSnapshot();
+        // A pan press keeps only the grid half of the snapshot. Meant: undo after a pan
+        // brings the old picture back over a grid that keeps the paint.
+        if (Button == 1 && Shift == 1) {
+            Pan_X = X;
+            Pan_Y = Y;
+            return;
+        }
+        if (Image_Missing == 1) {
+            host_.MsgBox("Image not loaded.", platform::kStyleOk);
+            return;
+        }
+        Picture6.Picture = picture1.Image(); // shares the raster; nothing is copied here
+        workOutPaintColor();
+        // A press within three canvas pixels of the edge does nothing more, but the
+        // snapshot above has been taken all the same.
+        if (pressNearCanvasEdge(X, Y)) return;
+
+        if (Tool_Mode == "Mask") {
+            // The colour mask's GetMask runs here.
+        } else if (Tool_Mode == "Extract") {
+            eyeDropperPick(X, Y);
+        } else if (Tool_Mode == "Line" || Tool_Mode == "Box") {
+            Start_X = X;
+            Start_Y = Y;
+        } else if (Tool_Mode == "Blur") {
+            convertPosition(X, Y); // then the blur brush
+        } else if (Tool_Mode == "Zoom") {
+            zoomStep(Button);
+        } else if (Tool_Mode == "Fill") {
+            convertPosition(X, Y); // then the fill
+        } else if (Tool_Mode == "Draw") {
+            convertPosition(X, Y);
+            pencilAt(X, Y);
+        } else if (Tool_Mode == "Air") {
+            convertPosition(X, Y); // then the airbrush's dab
+        } else if (Tool_Mode == "dTtint") {
+            convertPosition(X, Y); // then the tint brush
+        } else if (Tool_Mode == "dPaint" || Tool_Mode == "lPaint") {
+            // No conversion: the brush stands where the last move left Cur_X, Cur_Y.
+            paintBrushAt(X, Y);
+        } else if (Tool_Mode == "Text") {
+            convertPosition(X, Y); // then the text panel opens
+        }
+
+        if (Tool_Mode != "Zoom")
+            repaintCanvas();
+        else
+            frmCenter();
+    } catch (const vb::Error&) {
+    }
+}
+
+// Any failure ends the move where it stands, without the repaint: a stroke that leaves
+// the skin's grid leaves the canvas as it was until the pointer comes back.
+void FrmMain::Picture7_MouseMove(int16_t Button, int16_t Shift, float X, float Y) {
+    try {
+        if (Button == 2 && Shift == 1) {
+            eyeDropperPick(X, Y);
+            return;
+        }
+        if (Button == 1 && Shift == 1) {
+            panCanvas(X, Y);
+            return;
+        }
+        workOutPaintColor();
+        // X and Y follow the pointer with or without a button held.
+        convertPosition(X, Y);
+        Text5.Text = Cur_X.str();
+        Text5.Refresh();
+        Text4.Text = Cur_Y.str();
+        Text4.Refresh();
+        if (Button != 1) return;
+
+        // Each event paints at its own position only: a fast stroke leaves gaps.
+        if (Tool_Mode == "Line") {
+            // the rubber band of the line
+        } else if (Tool_Mode == "Box") {
+            // the rubber band of the rectangle
+        } else if (Tool_Mode == "Blur") {
+            // the blur brush
+        } else if (Tool_Mode == "Draw") {
+            pencilAt(X, Y);
+        } else if (Tool_Mode == "Air") {
+            // the airbrush's dab
+        } else if (Tool_Mode == "dTtint") {
+            // the tint brush
+        } else if (Tool_Mode == "dPaint" || Tool_Mode == "lPaint") {
+            paintBrushAt(X, Y);
+        } else {
+            return; // other words do nothing and repaint nothing
+        }
+        repaintCanvas();
+    } catch (const vb::Error&) {
+    }
+}
+
+// Looks at neither the button nor the position. Each statement stands on its own: one
+// that fails is skipped and the next runs.
+void FrmMain::Picture7_MouseUp(int16_t, int16_t, float, float) {
+    vb::resume([&] { Check_Color = vb::RGB(vb::CInt(Cur_R), vb::CInt(Cur_G), vb::CInt(Cur_B)); });
+    vb::resume([&] { Temp_Color_Check(); });
+    vb::resume([&] { Paint_Color = Check_Color; });
+    // The area filters, the line and the rectangle finish their drags here.
+    vb::resume([&] {
+        if (Wire_Shown == 1) redrawWireframeAfterMouseUp();
+    });
+}
+
+// Every repaint wipes the overlay from the canvas; this is where it comes back after a
+// stroke of any tool. Draw_Frame goes here once the wireframe overlay exists.
+void FrmMain::redrawWireframeAfterMouseUp() {}
+
+} // namespace tavrin
