@@ -156,6 +156,19 @@ public:
     void SSCommand39_Click();
     void makeTintSamples();
 
+    // ================= shell/tool_select.cpp: choosing a tool =================
+    void pEdit_Click();
+    void SSCommand4_Click();
+    void mZoom_Click();
+    void SSCommand19_Click();
+    void Eye_Click();
+    void SSCommand14_Click();
+    void Solid_Paint_Select();
+    void SSCommand12_Click();
+    void SSCommand30_Click();
+    void SSCommand31_Click();
+    void SSCommand32_Click();
+
     // ---------------- Skin and files ----------------
     vb::Array<int16_t> Skin_Grid;  // one palette index per skin pixel, y * Skin_Width + x
     vb::Array<int16_t> Undo_Grid;  // the grid as the last press on the canvas found it
