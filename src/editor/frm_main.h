@@ -54,6 +54,8 @@ public:
     void SSCommand24_Click();
     void SSCommand25_Click();
     void SSCommand26_Click();
+    // "Left", "Right", "Up", "Down": the canvas moves by the step, the picture with it.
+    void moveCanvas(platform::TwipsProp& edge, double twips);
     // The canvas repainted from picture1, stretched over the whole of it.
     void repaintCanvas();
     // The showing of a loaded picture, before and after the busy pointer goes off.
@@ -126,8 +128,6 @@ public:
     void convertPosition(float X, float Y);
     bool pressNearCanvasEdge(float X, float Y) const;
     void panCanvas(float X, float Y);
-    // The mouse-up's last step: brings the wireframe back once the overlay exists.
-    void redrawWireframeAfterMouseUp();
 
     // ================= tools/paint_brushes.cpp: pencil, paint brush, brush size =================
     void pencilAt(float X, float Y);

@@ -103,32 +103,16 @@ void FrmMain::SSCommand22_Click() {
     SSPanel3.Caption = "Zoom - Pan 5000";
 }
 
-void FrmMain::SSCommand23_Click() {
+void FrmMain::moveCanvas(platform::TwipsProp& edge, double twips) {
     SSPanel2.Visible = false;
-    Picture7.Left += Pan_Step;
+    edge += twips;
     Picture7.Refresh();
     repaintCanvas();
 }
 
-void FrmMain::SSCommand24_Click() {
-    SSPanel2.Visible = false;
-    Picture7.Left -= Pan_Step;
-    Picture7.Refresh();
-    repaintCanvas();
-}
-
-void FrmMain::SSCommand25_Click() {
-    SSPanel2.Visible = false;
-    Picture7.Top += Pan_Step;
-    Picture7.Refresh();
-    repaintCanvas();
-}
-
-void FrmMain::SSCommand26_Click() {
-    SSPanel2.Visible = false;
-    Picture7.Top -= Pan_Step;
-    Picture7.Refresh();
-    repaintCanvas();
-}
+void FrmMain::SSCommand23_Click() { moveCanvas(Picture7.Left, Pan_Step); }
+void FrmMain::SSCommand24_Click() { moveCanvas(Picture7.Left, -Pan_Step); }
+void FrmMain::SSCommand25_Click() { moveCanvas(Picture7.Top, Pan_Step); }
+void FrmMain::SSCommand26_Click() { moveCanvas(Picture7.Top, -Pan_Step); }
 
 } // namespace tavrin

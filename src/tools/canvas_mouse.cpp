@@ -176,13 +176,11 @@ void FrmMain::Picture7_MouseUp(int16_t, int16_t, float, float) {
     vb::resume([&] { Temp_Color_Check(); });
     vb::resume([&] { Paint_Color = Check_Color; });
     // The area filters, the line and the rectangle finish their drags here.
+    // Every repaint wipes the overlay from the canvas; it comes back after a stroke of
+    // any tool, and only here.
     vb::resume([&] {
-        if (Wire_Shown == 1) redrawWireframeAfterMouseUp();
+        if (Wire_Shown == 1) Draw_Frame();
     });
 }
-
-// Every repaint wipes the overlay from the canvas; this is where it comes back after a
-// stroke of any tool. Draw_Frame goes here once the wireframe overlay exists.
-void FrmMain::redrawWireframeAfterMouseUp() {}
 
 } // namespace tavrin

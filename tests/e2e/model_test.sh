@@ -1,0 +1,56 @@
+#!/bin/sh
+# File > New Skin from a model through the real dialog, View > Wire Frame with a second
+# model, a screenshot of the overlay, and the new skin saved as the headless driver
+# saves it.
+# Usage: model_test.sh path/to/tavrin path/to/tavrin-script FIRST.md2 SECOND.md2
+. "$(dirname "$0")/lib.sh"
+TAVRIN="$1"
+SCRIPT="$2"
+WORK="$(mktemp -d)"
+trap 'finish; rm -rf "$WORK"' EXIT
+cp "$3" "$WORK/first.md2"
+cp "$4" "$WORK/second.md2"
+start_x
+
+start_tavrin "$TAVRIN"
+splash=$(wait_window "Tavrin")
+click_twips "$splash" 1250 4560 # OK
+main=$(wait_window "Tavrin - 256 Color Pixel Editor - Version Beta - Build 033")
+sleep 0.5
+
+open_menu "$main" 20                     # File
+xdotool key Down Return                  # New Skin
+dialog=$(wait_window "New Skin From Base MD2 Wireframe.")
+xdotool windowfocus --sync "$dialog" 2>/dev/null || true
+xdotool type --delay 20 "$WORK/first.md2"
+xdotool key Return
+answer "$(wait_window "Tavrin")" Return  # the advice to save the new skin
+sleep 0.5
+
+open_menu "$main" 96                     # View
+xdotool key Down Down Down Down Down Down Return # Wire Frame
+dialog=$(wait_window "Import Base MD2 Wireframe.")
+xdotool windowfocus --sync "$dialog" 2>/dev/null || true
+xdotool type --delay 20 "$WORK/second.md2"
+xdotool key Return
+sleep 1
+shot wireframe-overlay.png
+
+open_menu "$main" 20                     # File
+xdotool key Down Down Down Down Down Return # Save Skin As
+dialog=$(wait_window "Save Skin PCX as Filename:")
+xdotool windowfocus --sync "$dialog" 2>/dev/null || true
+xdotool type --delay 20 "$WORK/saved.pcx"
+xdotool key Return
+for _ in $(seq 50); do [ -s "$WORK/saved.PCX" ] && break; sleep 0.1; done
+[ -s "$WORK/saved.PCX" ] || fail "no saved file"
+
+cat >"$WORK/same.tvs" <<SCRIPT_END
+answer open "$WORK/first.md2"
+click NewSkin
+answer save "$WORK/expected.pcx"
+click SKas
+SCRIPT_END
+"$SCRIPT" "$WORK/same.tvs" >/dev/null
+cmp "$WORK/saved.PCX" "$WORK/expected.PCX" || fail "the saved file differs"
+echo "new skin and wireframe: ok"
