@@ -51,6 +51,13 @@ answer() {
     xdotool key "$2"
 }
 
+# The first row, from the top of the screen, where column X shows the navy of a title
+# bar: where the floating bars stand depends on the heights of the menu and tool bars.
+navy_top() {
+    xwd -root -silent | convert xwd:- -crop "1x400+$1+0" txt:- |
+        awk -F'[,:]' '/#000080/ { print $2; exit }'
+}
+
 shot() {
     [ -n "${TAVRIN_SCREENSHOTS:-}" ] || return 0
     xwd -root -silent | convert xwd:- "$TAVRIN_SCREENSHOTS/$1"

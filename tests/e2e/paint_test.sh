@@ -1,0 +1,78 @@
+#!/bin/sh
+# Picks a colour in the palette, draws a pencil stroke across the canvas with the real
+# mouse, saves, and checks that the saved skin differs from the opened one only in
+# pixels of the picked colour's index.
+# Usage: paint_test.sh path/to/tavrin path/to/tavrin-script SKIN.pcx
+. "$(dirname "$0")/lib.sh"
+TAVRIN="$1"
+SCRIPT="$2"
+WORK="$(mktemp -d)"
+trap 'finish; rm -rf "$WORK"' EXIT
+cp "$3" "$WORK/skin.pcx"
+start_x
+
+start_tavrin "$TAVRIN"
+splash=$(wait_window "Tavrin")
+click_twips "$splash" 1250 4560 # OK
+main=$(wait_window "Tavrin - 256 Color Pixel Editor - Version Beta - Build 033")
+sleep 0.5
+
+open_menu "$main" 20
+xdotool key Down Down Right Return       # File > Open Skin > PCX File
+dialog=$(wait_window "Load Quake 2 PCX Skin Image")
+xdotool windowfocus --sync "$dialog" 2>/dev/null || true
+xdotool type --delay 20 "$WORK/skin.pcx"
+xdotool key Return
+answer "$(wait_window "Tavrin")" n
+sleep 1
+
+# The palette stands at the window's right edge: its left in pixels is
+# (width in twips - 3275) / 15, and its cells start 13 pixels in and 27 below its top.
+width=$(xdotool getdisplaygeometry | cut -d' ' -f1)
+panel_left=$(( (width * 15 - 3275 + 7) / 15 ))
+panel_top=$(navy_top $((panel_left + 40)))
+[ -n "$panel_top" ] || fail "the palette is not on the screen"
+# Cell 208, column 0 and row 13: pure green in the game's palette.
+xdotool mousemove $((panel_left + 13 + 5)) $((panel_top + 27 + 13 * 11 + 5)) click 1
+sleep 0.3
+
+open_menu "$main" 140                    # Tools
+xdotool key Down Down Down Return        # Pixel Edit
+sleep 0.3
+
+# The canvas is centred on the window's working area.
+surface_top=$((panel_top - 510 / 15))
+cy=$((surface_top + ($(xdotool getdisplaygeometry | cut -d' ' -f2)) / 2))
+cx=$((width / 2))
+xdotool mousemove $((cx - 40)) "$cy" mousedown 1
+for dx in $(seq -40 2 40); do xdotool mousemove $((cx + dx)) "$cy"; done
+xdotool mouseup 1
+sleep 0.5
+shot painted.png
+
+open_menu "$main" 20
+xdotool key Down Down Down Down Down Return # File > Save Skin As
+dialog=$(wait_window "Save Skin PCX as Filename:")
+xdotool windowfocus --sync "$dialog" 2>/dev/null || true
+xdotool type --delay 20 "$WORK/saved.pcx"
+xdotool key Return
+for _ in $(seq 50); do [ -s "$WORK/saved.PCX" ] && break; sleep 0.1; done
+[ -s "$WORK/saved.PCX" ] || fail "no saved file"
+
+cat >"$WORK/grids.tvs" <<SCRIPT_END
+answer open "$WORK/skin.pcx"
+answer msgbox no
+click pcxIm
+dump grid "$WORK/before.grid"
+answer open "$WORK/saved.PCX"
+answer msgbox no
+click pcxIm
+dump grid "$WORK/after.grid"
+SCRIPT_END
+"$SCRIPT" "$WORK/grids.tvs" >/dev/null
+# cmp -l gives offset, old byte, new byte (octal); 208 is 320 in octal.
+changed=$(cmp -l "$WORK/before.grid" "$WORK/after.grid" | awk '
+    $1 % 2 == 0 || $3 != 320 { bad = 1 } { n++ } END { print (bad ? "bad" : n + 0) }')
+[ "$changed" != "bad" ] || fail "the saved skin changed by more than the stroke"
+[ "$changed" -ge 20 ] || fail "the stroke painted $changed pixels"
+echo "paint: ok ($changed pixels)"
