@@ -1,0 +1,44 @@
+// The command table: a new command is one line here and its function.
+#include "cli/commands.h"
+
+#include <vector>
+
+namespace tavrin::cli {
+
+namespace {
+
+struct Command {
+    const char* name;
+    CommandFn run;
+};
+
+const std::vector<Command>& commands() {
+    static const std::vector<Command> table = {
+        {"answer", answerCommand},
+        {"click", clickCommand},
+        {"call", callCommand},
+        {"mouse", mouseCommand},
+        {"palette", paletteCommand},
+        {"type", typeCommand},
+        {"key", keyCommand},
+        {"slider", sliderCommand},
+        {"resize", resizeCommand},
+        {"grip", gripCommand},
+        {"drop", dropCommand},
+        {"set", setCommand},
+        {"print", printCommand},
+        {"bounds", boundsCommand},
+        {"dump", dumpCommand},
+    };
+    return table;
+}
+
+} // namespace
+
+CommandFn findCommand(const std::string& name) {
+    for (const Command& c : commands())
+        if (name == c.name) return c.run;
+    return nullptr;
+}
+
+} // namespace tavrin::cli
