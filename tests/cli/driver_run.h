@@ -1,0 +1,23 @@
+#pragma once
+// Runs the real tavrin-script on a script and keeps what it printed and returned.
+#include <string>
+
+namespace tavrin::test {
+
+struct DriverRun {
+    std::string out;
+    std::string err;
+    int status = -1;
+};
+
+// options go before the script's path on the command line, shell-quoted by the caller.
+DriverRun runDriver(const std::string& script, const std::string& options = "");
+// The same with the script on standard input.
+DriverRun runDriverOnStdin(const std::string& script, const std::string& options = "");
+
+// A word for sh, in single quotes.
+std::string shellQuote(const std::string& s);
+// A token for a script, in double quotes.
+std::string scriptQuote(const std::string& s);
+
+} // namespace tavrin::test
