@@ -1,7 +1,8 @@
 # Every target links tavrin_warnings, so the flags live in one place.
 add_library(tavrin_warnings INTERFACE)
 target_compile_options(tavrin_warnings INTERFACE
-    -Wall -Wextra -Wpedantic -Wshadow=local -Wnon-virtual-dtor -Woverloaded-virtual)
+    -Wall -Wextra -Wpedantic -Wnon-virtual-dtor -Woverloaded-virtual
+    $<$<CXX_COMPILER_ID:GNU>:-Wshadow=local>)
 if(TAVRIN_WERROR)
     target_compile_options(tavrin_warnings INTERFACE -Werror)
 endif()

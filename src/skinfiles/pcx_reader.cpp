@@ -4,6 +4,7 @@
 #include "editor/frm_main.h"
 #include "platform/vb_numeric.h"
 
+#include <array>
 #include <memory>
 
 namespace tavrin {
@@ -96,6 +97,19 @@ void FrmMain::Get_PCX() {
             if (p < 0 || p > lastCell) vb::raise(vb::SubscriptOutOfRange);
             return buffer[static_cast<std::size_t>(p)];
         };
+        // The table can't change while the file is decoded: each value's colour once. A
+        // record whose colour can't be packed fails only when a pixel uses it.
+        std::array<uint32_t, 256> colorOf{};
+        std::array<bool, 256> hasRecord{}, unpackable{};
+        for (std::size_t v = 0; v < 256; ++v) {
+            const PalRecord& record = Pal_Table(static_cast<int>(v));
+            hasRecord[v] = record.Index == static_cast<int>(v);
+            try {
+                if (hasRecord[v]) colorOf[v] = static_cast<uint32_t>(vb::RGB(record.Red, record.Green, record.Blue));
+            } catch (const vb::Error&) {
+                unpackable[v] = true;
+            }
+        }
         int64_t p = 129, x = 0, y = 0;
         uint32_t color = 0;
         int16_t index = 0;
@@ -108,9 +122,9 @@ void FrmMain::Get_PCX() {
                 v = cell(p);
             }
             // A value with no palette record of its own repeats the previous pixel.
-            const PalRecord& record = Pal_Table(v);
-            if (record.Index == v) {
-                color = static_cast<uint32_t>(vb::RGB(record.Red, record.Green, record.Blue));
+            if (hasRecord[static_cast<std::size_t>(v)]) {
+                if (unpackable[static_cast<std::size_t>(v)]) vb::raise(vb::InvalidCall);
+                color = colorOf[static_cast<std::size_t>(v)];
                 index = static_cast<int16_t>(v);
             }
             for (int i = 0; i < n; ++i) {

@@ -1,0 +1,88 @@
+#include "bench_support.h"
+
+#include <filesystem>
+#include <fstream>
+#include <random>
+#include <unistd.h>
+
+namespace tavrin::bench {
+
+namespace fs = std::filesystem;
+
+namespace {
+
+std::string makeFolder() {
+    fs::path dir = fs::temp_directory_path() / ("tavrin-bench-" + std::to_string(getpid()));
+    fs::create_directories(dir);
+    fs::copy_file(TAVRIN_PALETTE_FILE, dir / "Quake2.PAL", fs::copy_options::overwrite_existing);
+    return dir.string();
+}
+
+std::vector<uint8_t> encodeBigSkin() {
+    const int w = 1024, h = 1024;
+    std::vector<uint8_t> out(128, 0);
+    out[0] = 10, out[1] = 5, out[2] = 1, out[3] = 8;
+    out[8] = (w - 1) & 0xFF, out[9] = (w - 1) >> 8, out[10] = (h - 1) & 0xFF, out[11] = (h - 1) >> 8;
+    out[65] = 1, out[66] = w & 0xFF, out[67] = w >> 8, out[68] = 1;
+    std::mt19937 rng(7);
+    for (int y = 0; y < h; ++y) {
+        std::vector<uint8_t> row(w);
+        for (int x = 0; x < w; ++x)
+            row[static_cast<std::size_t>(x)] = rng() % 8 == 0 ? static_cast<uint8_t>(rng() % 256)
+                                                              : static_cast<uint8_t>(((x / 24) * 7 + (y / 32) * 13) % 256);
+        for (std::size_t i = 0; i < row.size();) {
+            std::size_t n = 1;
+            while (i + n < row.size() && row[i + n] == row[i] && n < 63) ++n;
+            if (n > 1 || row[i] >= 192) out.push_back(static_cast<uint8_t>(192 + n));
+            out.push_back(row[i]);
+            i += n;
+        }
+    }
+    out.push_back(0x0C);
+    std::ifstream pal(TAVRIN_PALETTE_FILE, std::ios::binary);
+    out.insert(out.end(), std::istreambuf_iterator<char>(pal), std::istreambuf_iterator<char>());
+    return out;
+}
+
+} // namespace
+
+Editor::Editor() : folder(makeFolder()), host(folder), frm(host) { frm.Form_Load(); }
+
+Editor::~Editor() {
+    std::error_code ignored;
+    fs::remove_all(folder, ignored);
+}
+
+void Editor::openBigSkin() {
+    host.answerOpen(bigSkinPath());
+    host.answerMsgBox(platform::kMsgNo);
+    frm.pcxIm_Click();
+}
+
+const std::string& bigSkinPath() {
+    static const std::string path = [] {
+        std::string p = (fs::temp_directory_path() / ("tavrin-bench-skin-" + std::to_string(getpid()) + ".pcx")).string();
+        std::vector<uint8_t> bytes = encodeBigSkin();
+        std::ofstream(p, std::ios::binary).write(reinterpret_cast<const char*>(bytes.data()),
+                                                 static_cast<std::streamsize>(bytes.size()));
+        return p;
+    }();
+    return path;
+}
+
+std::vector<int32_t> skinColours() {
+    Editor e;
+    std::string path = bigSkinPath();
+    const fs::path real = fs::path(TAVRIN_REALDATA) / "md2/SnowfallEagle-Volition3D/Bin/Assets/Models/Blade/blade.pcx";
+    if (fs::exists(real)) path = real.string();
+    e.host.answerOpen(path);
+    e.host.answerMsgBox(platform::kMsgYes);
+    e.frm.pcxIm_Click();
+    std::vector<int32_t> colours;
+    const int w = e.frm.picture1.innerWidth(), h = e.frm.picture1.innerHeight();
+    for (int y = 0; y < h; ++y)
+        for (int x = 0; x < w; ++x) colours.push_back(e.frm.picture1.Point(x, y));
+    return colours;
+}
+
+} // namespace tavrin::bench

@@ -1,0 +1,29 @@
+#pragma once
+// Shared by the benchmarks: an editor loaded as at start, and a 1024 x 1024 skin.
+#include "editor/frm_main.h"
+#include "platform/scripted_host.h"
+
+#include <memory>
+#include <string>
+#include <vector>
+
+namespace tavrin::bench {
+
+struct Editor {
+    std::string folder;
+    platform::ScriptedHost host;
+    FrmMain frm;
+    Editor();
+    ~Editor();
+    // Opens the 1024 x 1024 skin through the open command.
+    void openBigSkin();
+};
+
+// A 1024 x 1024 PCX with the runs of a painted skin: patches of one colour broken by
+// noise. Written once per run.
+const std::string& bigSkinPath();
+
+// The colours of a real skin if the real files are there, else of the big skin.
+std::vector<int32_t> skinColours();
+
+} // namespace tavrin::bench

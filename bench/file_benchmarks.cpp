@@ -1,0 +1,83 @@
+// Reading and writing a 1024 x 1024 skin, and the palette match, against their baselines.
+#include "bench_budgets.h"
+#include "bench_support.h"
+#include "palette/color_match.h"
+
+#include <benchmark/benchmark.h>
+
+#include <cstring>
+
+namespace tavrin::bench {
+
+const std::vector<Budget>& budgets() {
+    static const std::vector<Budget> all = {
+        {"Get_PCX 1024x1024", "Get_PCX/path", "Get_PCX/baseline", 10, false},
+        {"ex_Click 1024x1024", "ex_Click/path", "ex_Click/baseline", 10, false},
+        {"Temp_Color_Check", "Temp_Color_Check/path", "Temp_Color_Check/baseline", 20, true},
+    };
+    return all;
+}
+
+namespace {
+
+// The baseline of the file paths: one bulk copy of the picture's pixels.
+void copyPicture(benchmark::State& state) {
+    std::vector<uint32_t> from(1024 * 1024, 1), to(1024 * 1024);
+    for (auto _ : state) {
+        std::memcpy(to.data(), from.data(), from.size() * sizeof(uint32_t));
+        benchmark::DoNotOptimize(to.data());
+        benchmark::ClobberMemory();
+    }
+}
+BENCHMARK(copyPicture)->Name("Get_PCX/baseline");
+BENCHMARK(copyPicture)->Name("ex_Click/baseline");
+
+void readSkin(benchmark::State& state) {
+    Editor e;
+    e.frm.File_Name = bigSkinPath();
+    for (auto _ : state) e.frm.Get_PCX();
+}
+BENCHMARK(readSkin)->Name("Get_PCX/path")->Unit(benchmark::kMicrosecond);
+
+void writeSkin(benchmark::State& state) {
+    Editor e;
+    e.openBigSkin();
+    const std::string target = e.folder + "/saved.pcx";
+    for (auto _ : state) {
+        e.host.answerSave(target);
+        e.frm.ex_Click();
+    }
+}
+BENCHMARK(writeSkin)->Name("ex_Click/path")->Unit(benchmark::kMicrosecond);
+
+const std::vector<int32_t>& colours() {
+    static const std::vector<int32_t> c = skinColours();
+    return c;
+}
+
+// The plain 256-record scan, as if nothing were remembered.
+void scanMatch(benchmark::State& state) {
+    Editor e;
+    int32_t near = 0;
+    for (auto _ : state)
+        for (int32_t c : colours()) {
+            MatchResult r = matchColor(e.frm.Pal_Table, c, near);
+            near = r.nearColor;
+            benchmark::DoNotOptimize(r);
+        }
+}
+BENCHMARK(scanMatch)->Name("Temp_Color_Check/baseline")->Unit(benchmark::kMicrosecond);
+
+void cachedMatch(benchmark::State& state) {
+    Editor e;
+    for (auto _ : state)
+        for (int32_t c : colours()) {
+            e.frm.Check_Color = c;
+            e.frm.Temp_Color_Check();
+            benchmark::DoNotOptimize(e.frm.Check_Color);
+        }
+}
+BENCHMARK(cachedMatch)->Name("Temp_Color_Check/path")->Unit(benchmark::kMicrosecond);
+
+} // namespace
+} // namespace tavrin::bench

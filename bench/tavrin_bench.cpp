@@ -1,0 +1,57 @@
+// tavrin-bench: each hot path is measured beside a baseline in the same run, and the
+// ratio of the two is what is judged, so the numbers hold on any machine.
+//   tavrin-bench [--check MARGIN] [benchmark options]
+// --check fails (exit 1) when a ratio misses its budget by more than MARGIN times.
+#include "bench_support.h"
+#include "bench_budgets.h"
+
+#include <benchmark/benchmark.h>
+
+#include <cstdio>
+#include <cstring>
+#include <map>
+#include <string>
+
+namespace {
+
+// Keeps the time per iteration of every benchmark by name.
+class Collector : public benchmark::ConsoleReporter {
+public:
+    std::map<std::string, double> seconds;
+    void ReportRuns(const std::vector<Run>& runs) override {
+        for (const Run& r : runs)
+            if (r.run_type == Run::RT_Iteration && !r.error_occurred)
+                seconds[r.benchmark_name()] = r.real_accumulated_time / static_cast<double>(r.iterations);
+        ConsoleReporter::ReportRuns(runs);
+    }
+};
+
+} // namespace
+
+int main(int argc, char** argv) {
+    double margin = 0;
+    std::vector<char*> args;
+    for (int i = 0; i < argc; ++i) {
+        if (std::strcmp(argv[i], "--check") == 0 && i + 1 < argc) margin = std::atof(argv[++i]);
+        else args.push_back(argv[i]);
+    }
+    int count = static_cast<int>(args.size());
+    benchmark::Initialize(&count, args.data());
+    Collector collector;
+    benchmark::RunSpecifiedBenchmarks(&collector);
+
+    bool ok = true;
+    std::printf("\n%-28s %12s %14s %s\n", "hot path", "ratio", "budget", "");
+    for (const tavrin::bench::Budget& b : tavrin::bench::budgets()) {
+        auto path = collector.seconds.find(b.path), base = collector.seconds.find(b.baseline);
+        if (path == collector.seconds.end() || base == collector.seconds.end()) continue;
+        const double ratio = b.atLeast ? base->second / path->second : path->second / base->second;
+        const bool met = b.atLeast ? ratio >= b.budget : ratio <= b.budget;
+        const bool failed = margin > 0 && (b.atLeast ? ratio * margin < b.budget : ratio > b.budget * margin);
+        std::printf("%-28s %12.3f %s %10.3f %s\n", b.name, ratio, b.atLeast ? ">=" : "<=", b.budget,
+                    met ? "met" : (failed ? "MISSED" : "missed (within margin)"));
+        if (failed) ok = false;
+    }
+    benchmark::Shutdown();
+    return ok ? 0 : 1;
+}
