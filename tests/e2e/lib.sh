@@ -63,6 +63,25 @@ shot() {
     xwd -root -silent | convert xwd:- "$TAVRIN_SCREENSHOTS/$1"
 }
 
+MAIN_TITLE="Tavrin - 256 Color Pixel Editor - Version Beta - Build 033"
+
+# Presses "OK" on the start form and prints the main window's id. The press is
+# repeated while the window is slow to come up under load.
+press_ok() {
+    splash=$(wait_window "Tavrin")
+    for _ in 1 2 3; do
+        sleep 0.5
+        click_twips "$splash" 1250 4560 # OK
+        id=$(timeout 10 xdotool search --sync --onlyvisible --name "^$MAIN_TITLE\$" 2>/dev/null | tail -1) || true
+        if [ -n "$id" ]; then
+            sleep 0.5
+            echo "$id"
+            return 0
+        fi
+    done
+    fail "no main window"
+}
+
 wait_exit() {
     for _ in $(seq 100); do
         kill -0 "$TAVRIN_PID" 2>/dev/null || return 0

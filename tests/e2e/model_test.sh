@@ -14,10 +14,7 @@ cp "$4" "$WORK/second.md2"
 start_x
 
 start_tavrin "$TAVRIN"
-splash=$(wait_window "Tavrin")
-click_twips "$splash" 1250 4560 # OK
-main=$(wait_window "Tavrin - 256 Color Pixel Editor - Version Beta - Build 033")
-sleep 0.5
+main=$(press_ok)
 
 open_menu "$main" 20                     # File
 xdotool key Down Return                  # New Skin

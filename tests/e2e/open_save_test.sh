@@ -12,10 +12,7 @@ cp "$SKIN" "$WORK/skin.pcx"
 start_x
 
 start_tavrin "$TAVRIN"
-splash=$(wait_window "Tavrin")
-click_twips "$splash" 1250 4560 # OK
-main=$(wait_window "Tavrin - 256 Color Pixel Editor - Version Beta - Build 033")
-sleep 0.5
+main=$(press_ok)
 
 open_menu "$main" 20                     # File
 xdotool key Down Down Right Return       # Open Skin > PCX File
