@@ -91,6 +91,6 @@ wait_exit() {
 }
 
 finish() {
-    kill "$TAVRIN_PID" 2>/dev/null || true
-    kill "$XVFB_PID" 2>/dev/null || true
+    [ -z "${TAVRIN_PID:-}" ] || kill "$TAVRIN_PID" 2>/dev/null || true
+    [ -z "${XVFB_PID:-}" ] || kill "$XVFB_PID" 2>/dev/null || true
 }
