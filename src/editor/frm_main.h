@@ -58,6 +58,8 @@ public:
     void moveCanvas(platform::TwipsProp& edge, double twips);
     // The canvas repainted from picture1, stretched over the whole of it.
     void repaintCanvas();
+    // The start of the open commands: clears the view, prepares the dialog, resets the zoom.
+    void prepareOpenCommand(const char* pattern, const char* title, const char* kind);
     // The showing of a loaded picture, before and after the busy pointer goes off.
     void showLoadedPictureStart();
     // betweenCenters: what runs between the two centrings (a new skin takes its grid there).

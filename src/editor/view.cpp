@@ -40,6 +40,25 @@ void FrmMain::Calc_Pixels() {
     }
 }
 
+void FrmMain::prepareOpenCommand(const char* pattern, const char* title, const char* kind) {
+    // The old picture goes before the dialog opens, also if the user cancels.
+    Picture7.Picture = nullptr;
+    picture1.Picture = nullptr;
+    Picture7.Visible = false;
+    picture1.Visible = false;
+    picture1.Refresh();
+    CommonDialog1.FileName = pattern;
+    CommonDialog1.Pattern = pattern;
+    CommonDialog1.DialogTitle = title;
+    CommonDialog1.KindText = kind;
+    Image_Missing = 2;
+    Zoom_Factor = 1;
+    Pixel_Width = 0;
+    Scale_X = 1;
+    Pixel_Height = 0;
+    Scale_Y = 1;
+}
+
 void FrmMain::showLoadedPictureStart() {
     ActualPixels_Click();
     Picture7.Width = picture1.Width;

@@ -9,22 +9,7 @@ namespace tavrin {
 void FrmMain::NewSkin_Click() {
     StatusBar1.Panels(1).Text = "Select Image";
     try {
-        // The old picture goes before the dialog opens, also if the user cancels.
-        Picture7.Picture = nullptr;
-        picture1.Picture = nullptr;
-        Picture7.Visible = false;
-        picture1.Visible = false;
-        picture1.Refresh();
-        CommonDialog1.FileName = "*.MD2";
-        CommonDialog1.Pattern = "*.MD2";
-        CommonDialog1.DialogTitle = "New Skin From Base MD2 Wireframe.";
-        CommonDialog1.KindText = "Quake 2 Model Files";
-        Image_Missing = 2;
-        Zoom_Factor = 1;
-        Pixel_Width = 0;
-        Scale_X = 1;
-        Pixel_Height = 0;
-        Scale_Y = 1;
+        prepareOpenCommand("*.MD2", "New Skin From Base MD2 Wireframe.", "Quake 2 Model Files");
         platform::showOpen(host_, CommonDialog1);
         File_Name = CommonDialog1.FileName;
         Model_Path = File_Name;

@@ -12,21 +12,7 @@ namespace tavrin {
 void FrmMain::pcxIm_Click() {
     try {
         StatusBar1.Panels(1).Text = "Select Image";
-        Picture7.Picture = nullptr;
-        picture1.Picture = nullptr;
-        Picture7.Visible = false;
-        picture1.Visible = false;
-        picture1.Refresh();
-        CommonDialog1.FileName = "*.PCX";
-        CommonDialog1.Pattern = "*.PCX";
-        CommonDialog1.DialogTitle = "Load Quake 2 PCX Skin Image";
-        CommonDialog1.KindText = "Quake 2 Skins";
-        Image_Missing = 2;
-        Zoom_Factor = 1;
-        Pixel_Width = 0;
-        Scale_X = 1;
-        Pixel_Height = 0;
-        Scale_Y = 1;
+        prepareOpenCommand("*.PCX", "Load Quake 2 PCX Skin Image", "Quake 2 Skins");
         platform::showOpen(host_, CommonDialog1);
         File_Name = CommonDialog1.FileName;
         Skin_Path = File_Name;

@@ -44,6 +44,32 @@ open_menu() {
     sleep 0.3
 }
 
+# Types into the file dialog of that title and accepts.
+type_in_dialog() {
+    dialog=$(wait_window "$1")
+    xdotool windowfocus --sync "$dialog" 2>/dev/null || true
+    xdotool type --delay 20 "$2"
+    xdotool key Return
+}
+
+# File > Open Skin > PCX File with the path, answering No to the palette question.
+open_skin() {
+    open_menu "$1" 20
+    xdotool key Down Down Right Return
+    type_in_dialog "Load Quake 2 PCX Skin Image" "$2"
+    answer "$(wait_window "Tavrin")" n
+    sleep 1
+}
+
+# File > Save Skin As with a name ending in .pcx; waits for the file the save makes.
+save_skin_as() {
+    open_menu "$1" 20
+    xdotool key Down Down Down Down Down Return
+    type_in_dialog "Save Skin PCX as Filename:" "$2.pcx"
+    for _ in $(seq 50); do [ -s "$2.PCX" ] && return 0; sleep 0.1; done
+    fail "no saved file"
+}
+
 # Answers a message box with a key.
 answer() {
     [ -n "$1" ] || fail "no message box"

@@ -18,30 +18,17 @@ main=$(press_ok)
 
 open_menu "$main" 20                     # File
 xdotool key Down Return                  # New Skin
-dialog=$(wait_window "New Skin From Base MD2 Wireframe.")
-xdotool windowfocus --sync "$dialog" 2>/dev/null || true
-xdotool type --delay 20 "$WORK/first.md2"
-xdotool key Return
+type_in_dialog "New Skin From Base MD2 Wireframe." "$WORK/first.md2"
 answer "$(wait_window "Tavrin")" Return  # the advice to save the new skin
 sleep 0.5
 
 open_menu "$main" 96                     # View
 xdotool key Down Down Down Down Down Down Return # Wire Frame
-dialog=$(wait_window "Import Base MD2 Wireframe.")
-xdotool windowfocus --sync "$dialog" 2>/dev/null || true
-xdotool type --delay 20 "$WORK/second.md2"
-xdotool key Return
+type_in_dialog "Import Base MD2 Wireframe." "$WORK/second.md2"
 sleep 1
 shot wireframe-overlay.png
 
-open_menu "$main" 20                     # File
-xdotool key Down Down Down Down Down Return # Save Skin As
-dialog=$(wait_window "Save Skin PCX as Filename:")
-xdotool windowfocus --sync "$dialog" 2>/dev/null || true
-xdotool type --delay 20 "$WORK/saved.pcx"
-xdotool key Return
-for _ in $(seq 50); do [ -s "$WORK/saved.PCX" ] && break; sleep 0.1; done
-[ -s "$WORK/saved.PCX" ] || fail "no saved file"
+save_skin_as "$main" "$WORK/saved"
 
 cat >"$WORK/same.tvs" <<SCRIPT_END
 answer open "$WORK/first.md2"

@@ -14,24 +14,10 @@ start_x
 start_tavrin "$TAVRIN"
 main=$(press_ok)
 
-open_menu "$main" 20                     # File
-xdotool key Down Down Right Return       # Open Skin > PCX File
-dialog=$(wait_window "Load Quake 2 PCX Skin Image")
-xdotool windowfocus --sync "$dialog" 2>/dev/null || true
-xdotool type --delay 20 "$WORK/skin.pcx"
-xdotool key Return
-answer "$(wait_window "Tavrin")" n       # Import Palette From Skin? No
-sleep 1
+open_skin "$main" "$WORK/skin.pcx"
 shot main-window-skin.png
 
-open_menu "$main" 20                     # File
-xdotool key Down Down Down Down Down Return # Save Skin As
-dialog=$(wait_window "Save Skin PCX as Filename:")
-xdotool windowfocus --sync "$dialog" 2>/dev/null || true
-xdotool type --delay 20 "$WORK/saved.pcx"
-xdotool key Return
-for _ in $(seq 50); do [ -s "$WORK/saved.PCX" ] && break; sleep 0.1; done
-[ -s "$WORK/saved.PCX" ] || fail "no saved file"
+save_skin_as "$main" "$WORK/saved"
 
 cat >"$WORK/same.tvs" <<SCRIPT_END
 answer open "$WORK/skin.pcx"

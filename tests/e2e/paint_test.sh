@@ -14,14 +14,7 @@ start_x
 start_tavrin "$TAVRIN"
 main=$(press_ok)
 
-open_menu "$main" 20
-xdotool key Down Down Right Return       # File > Open Skin > PCX File
-dialog=$(wait_window "Load Quake 2 PCX Skin Image")
-xdotool windowfocus --sync "$dialog" 2>/dev/null || true
-xdotool type --delay 20 "$WORK/skin.pcx"
-xdotool key Return
-answer "$(wait_window "Tavrin")" n
-sleep 1
+open_skin "$main" "$WORK/skin.pcx"
 
 # The palette stands at the window's right edge: its left in pixels is
 # (width in twips - 3275) / 15, and its cells start 13 pixels in and 27 below its top.
@@ -47,14 +40,7 @@ xdotool mouseup 1
 sleep 0.5
 shot painted.png
 
-open_menu "$main" 20
-xdotool key Down Down Down Down Down Return # File > Save Skin As
-dialog=$(wait_window "Save Skin PCX as Filename:")
-xdotool windowfocus --sync "$dialog" 2>/dev/null || true
-xdotool type --delay 20 "$WORK/saved.pcx"
-xdotool key Return
-for _ in $(seq 50); do [ -s "$WORK/saved.PCX" ] && break; sleep 0.1; done
-[ -s "$WORK/saved.PCX" ] || fail "no saved file"
+save_skin_as "$main" "$WORK/saved"
 
 cat >"$WORK/grids.tvs" <<SCRIPT_END
 answer open "$WORK/skin.pcx"
