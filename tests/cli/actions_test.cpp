@@ -1,4 +1,4 @@
-// What the user's commands do to the window: keys, the slider, procedures by name.
+// What the user's commands do to the window: keys, procedures by name, the mouse.
 #include "cli/driver_run.h"
 #include "support/test_support.h"
 
@@ -7,14 +7,6 @@
 namespace tavrin::test {
 namespace {
 
-// The text after `print NAME` in out (up to the end of its line), or "?".
-std::string valueOf(const std::string& out, const std::string& name, std::size_t from = 0) {
-    std::size_t at = out.find(name + "=", from);
-    if (at == std::string::npos) return "?";
-    at += name.size() + 1;
-    return out.substr(at, out.find('\n', at) - at);
-}
-
 TEST(DriverActions, KeysTypeAtTheEndAndBackspaceDeletes) {
     // Text5 shows the pointer's column: nothing handles its keys.
     DriverRun r = runDriver("type Text5 \"ab\"\nkey Text5 67\nkey Text5 8\nkey Text5 8\nkey Text5 13\n"
@@ -22,15 +14,6 @@ TEST(DriverActions, KeysTypeAtTheEndAndBackspaceDeletes) {
     EXPECT_EQ(r.status, 0) << r.err;
     EXPECT_EQ(r.out, "Text5.Text=\"a\"\nText5.Text=\"\"\n");
     EXPECT_EQ(runDriver("key Text5 256\n").status, 2);
-}
-
-TEST(DriverActions, TheSliderStopsAtItsEnds) {
-    DriverRun r = runDriver("slider 99\nprint Slider1.Value\nprint Slider1.Max\n"
-                            "slider -99\nprint Slider1.Value\nprint Slider1.Min\n");
-    EXPECT_EQ(r.status, 0) << r.err;
-    EXPECT_EQ(valueOf(r.out, "Slider1.Value"), valueOf(r.out, "Slider1.Max")) << r.out;
-    std::size_t afterMax = r.out.find("Slider1.Max");
-    EXPECT_EQ(valueOf(r.out, "Slider1.Value", afterMax), valueOf(r.out, "Slider1.Min")) << r.out;
 }
 
 TEST(DriverActions, CallRunsProceduresOfTheMainFormByName) {

@@ -54,29 +54,5 @@ TEST(DriverInspection, PointAndDumpPictureShowThePalettePicture) {
     EXPECT_EQ((Bytes{file[at], file[at + 1], file[at + 2]}), (Bytes{pal[15], pal[16], pal[17]}));
 }
 
-TEST(DriverInspection, DumpGridWritesTheLoadedSkinLittleEndian) {
-    TempDir dir;
-    std::string grid = dir.file("grid.bin");
-    DriverRun empty = runDriver("dump grid " + scriptQuote(grid) + "\n");
-    EXPECT_EQ(empty.out, "dump grid 0\n");
-    EXPECT_TRUE(readFile(grid).empty());
-
-    DriverRun r = runDriver("answer open " + scriptQuote(TAVRIN_TEST_DATA "/odd-width-7x5.pcx") +
-                            "\nanswer msgbox no\nclick pcxIm\nset Skin_Grid 1 -2\nbounds Skin_Grid\n"
-                            "print Skin_Grid 0\ndump grid " + scriptQuote(grid) + "\n");
-    EXPECT_EQ(r.status, 0) << r.err;
-    std::size_t bounds = r.out.find("Skin_Grid=0..");
-    ASSERT_NE(bounds, std::string::npos) << r.out;
-    long upper = std::stol(r.out.substr(bounds + 13));
-    std::size_t first = r.out.find("Skin_Grid(0)=");
-    ASSERT_NE(first, std::string::npos) << r.out;
-    int value0 = std::stoi(r.out.substr(first + 13));
-    EXPECT_NE(r.out.find("dump grid " + std::to_string(upper + 1) + "\n"), std::string::npos) << r.out;
-    Bytes file = readFile(grid);
-    ASSERT_EQ(file.size(), static_cast<std::size_t>(upper + 1) * 2);
-    EXPECT_EQ(file[0] | file[1] << 8, value0);
-    EXPECT_EQ((Bytes{file[2], file[3]}), (Bytes{0xFE, 0xFF}));
-}
-
 } // namespace
 } // namespace tavrin::test

@@ -93,14 +93,5 @@ TEST_F(Lifecycle, ExitAndClosingAskTheSameQuestionAndNoLeavesEverythingAsItWas) 
     EXPECT_EQ(other.messages().size(), 1u); // no second question, nothing saved
 }
 
-TEST_F(Lifecycle, EraseArrayEmptiesTheModelTables) {
-    frm.Tri_Table.ReDim(0, 5);
-    frm.UV_Table.ReDim(0, 5);
-    frm.Erase_Array();
-    EXPECT_FALSE(frm.Tri_Table.allocated());
-    EXPECT_FALSE(frm.UV_Table.allocated());
-    EXPECT_THROW(frm.UV_Table(0), vb::Error);
-}
-
 } // namespace
 } // namespace tavrin::test

@@ -169,16 +169,5 @@ TEST_F(GetPal, RealSkinTailsAndColourTables) {
     expectRecord(frm, 257, table[771], table[769], table[770], 11, 176);
 }
 
-TEST_F(GetPal, RgbColorSplitsTheCurrentColourIntoTheThreeTextBoxes) {
-    frm.Cur_Color = packed(17, 34, 251);
-    frm.RGB_Color();
-    EXPECT_EQ(frm.Cur_R, 17);
-    EXPECT_EQ(frm.Cur_G, 34);
-    EXPECT_EQ(frm.Cur_B, 251);
-    EXPECT_EQ(frm.Text1.Text.get(), "17");
-    EXPECT_EQ(frm.Text2.Text.get(), "34");
-    EXPECT_EQ(frm.Text3.Text.get(), "251");
-}
-
 } // namespace
 } // namespace tavrin::test

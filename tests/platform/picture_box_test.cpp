@@ -150,15 +150,6 @@ TEST(PictureBox, ImageIsASnapshotAndPictureCopiesItIntoAnotherBox) {
     EXPECT_EQ(c.box.Point(3, 3), kGreen);
 }
 
-TEST(PictureBox, ATwipsBoxTakesFifteenUnitsToThePixel) {
-    Box b(10, 10, true, 2, platform::ScaleUnit::Twips);
-    EXPECT_EQ(b.box.ScaleWidth, 150);
-    b.box.PSet(30, 45, kRed);
-    EXPECT_EQ(b.box.Point(30, 45), kRed);
-    EXPECT_EQ(b.box.Image()->at(2, 3), static_cast<uint32_t>(kRed));
-    EXPECT_EQ(b.box.Point(150, 0), -1);
-}
-
 TEST(PictureBox, AHugeSizeIsRefusedWithoutAllocating) {
     Box b(4, 4);
     b.box.Width = 20000 * 15;

@@ -51,20 +51,6 @@ TEST(VbNumeric, ConversionsRoundHalfToEvenAndOverflowOutsideTheirRange) {
     EXPECT_EQ(vb::Int(-0.5), -1);
 }
 
-TEST(VbNumeric, PackedColoursSplitAndJoinAsTheEditorDoes) {
-    EXPECT_EQ(vb::RGB(1, 2, 3), 0x030201);
-    EXPECT_EQ(vb::RGB(300, 255.5, 0), 0x00FFFF); // above 255 counts as 255
-    EXPECT_EQ(errorOf([] { vb::RGB(-1, 0, 0); }), vb::InvalidCall);
-
-    EXPECT_EQ(vb::redOf(0x123456), 0x56);
-    EXPECT_EQ(vb::greenOf(0x123456), 0x34);
-    EXPECT_EQ(vb::blueOf(0x123456), 0x12);
-    // What Point gives outside a picture splits into parts that are no bytes.
-    EXPECT_EQ(vb::redOf(-1), -1);
-    EXPECT_EQ(vb::greenOf(-1), -65281);
-    EXPECT_EQ(vb::blueOf(-1), 255);
-}
-
 TEST(VbArray, EveryAccessOutsideTheBoundsOrBeforeAllocationIsSubscriptOutOfRange) {
     vb::Array<int16_t> a;
     EXPECT_FALSE(a.allocated());
@@ -152,23 +138,6 @@ TEST(VbFiles, GetReadsAtOneBasedPositionsAndEofShowsOnlyAfterAShortRead) {
 
     files.OpenForRead(2, dir.write("empty.bin", {}));
     EXPECT_TRUE(files.EOF_(2)); // an empty file is at its end at once
-}
-
-TEST(VbFiles, PutWritesAtOneBasedPositionsIntoWhatTheFileHeld) {
-    TempDir dir;
-    std::string path = dir.write("out.bin", {1, 2, 3, 4});
-    vb::FileTable files;
-    files.OpenForWrite(1, path);
-    const uint8_t nine[] = {9, 9};
-    files.Put(1, 2, nine, 2);
-    files.Put(1, 6, nine, 1); // past the end: the gap is filled with zeros
-    EXPECT_EQ(files.LOF(1), 6);
-    files.Close(1);
-    EXPECT_EQ(tavrin::test::readFile(path), (Bytes{1, 9, 9, 4, 0, 9}));
-
-    vb::Kill(path);
-    EXPECT_FALSE(vb::fileExists(path));
-    EXPECT_EQ(errorOf([&] { vb::Kill(path); }), vb::FileNotFound);
 }
 
 TEST(Variant, HoldsTheKindLastAssignedAndComparesTextsAsTexts) {

@@ -62,51 +62,6 @@ TEST_F(CommandSurface, EveryMenuItemComesFromTheTableOnceWithItsOwnShortcut) {
         EXPECT_TRUE(sep->isSeparator()) << sep->name();
 }
 
-TEST_F(CommandSurface, MenuItemsStartCheckedHiddenOrDisabledAsDesigned) {
-    using Names = std::set<std::string>;
-    EXPECT_EQ(menuItemsWhere(frm, [](auto& m) { return m.Checked.get(); }),
-              (Names{"PALE", "ToolBar", "fil", "p9", "gl", "Cl256"}));
-    EXPECT_EQ(menuItemsWhere(frm, [](auto& m) { return !m.Visible.get(); }),
-              (Names{"MD2Im", "OpenSkin", "mLine", "mFill", "Mode", "Pop"}));
-    EXPECT_EQ(menuItemsWhere(frm, [](auto& m) { return !m.Enabled.get(); }),
-              (Names{"MD2Im", "OpenSkin", "mLine", "mFill", "Cl256", "CLhigh"}));
-    EXPECT_FALSE(frm.Pbrush.Click); // does nothing, by menu or by Ctrl+P
-}
-
-TEST_F(CommandSurface, FloatingBarsStartAtTheirDesignPlaces) {
-    struct Bar {
-        const platform::Panel& panel;
-        double left, top, width, height;
-        bool visible;
-    };
-    const Bar bars[] = {{frm.SSPanel13, 9495, 4650, 2205, 2925, true},
-                        {frm.SSPanel15, 60, 7140, 5295, 825, true},
-                        {frm.SSPanel1, 8730, 510, 3075, 4065, true},
-                        {frm.SSPanel11, 240, 510, 4125, 2865, false},
-                        {frm.SSPanel7, 1020, 4290, 4095, 4095, false},
-                        {frm.SSPanel16, 4920, 1140, 855, 1365, false},
-                        {frm.SSPanel5, 5295, 4680, 4035, 3300, false},
-                        {frm.SSPanel2, 9915, 5220, 780, 750, false}};
-    for (const Bar& b : bars) {
-        SCOPED_TRACE(b.panel.name());
-        EXPECT_EQ(b.panel.Left, b.left);
-        EXPECT_EQ(b.panel.Top, b.top);
-        EXPECT_EQ(b.panel.Width, b.width);
-        EXPECT_EQ(b.panel.Height, b.height);
-        EXPECT_EQ(b.panel.Visible.get(), b.visible);
-    }
-    EXPECT_EQ(frm.SSPanel3.Caption.get(), "Zoom");
-    EXPECT_EQ(frm.SSPanel8.Caption.get(), " Palette");
-    EXPECT_EQ(frm.SSCommand12.ToolTipText.get(), "Paint-Brush ");
-    EXPECT_EQ(frm.SSCommand36.Caption.get(), "Tint ");
-
-    // The toolbar: 15 places, separators at 4, 6, 10 and 14.
-    ASSERT_EQ(frm.tbToolBar.Buttons.size(), 15u);
-    for (std::size_t i = 0; i < 15; ++i)
-        EXPECT_EQ(frm.tbToolBar.Buttons[i].Key.empty(), i == 3 || i == 5 || i == 9 || i == 13) << i + 1;
-    EXPECT_EQ(frm.tbToolBar.Buttons[14].ToolTipText, "Change/Select Font");
-}
-
 TEST_F(CommandSurface, TheMenuFollowsItsCheckMarkAndSomeCloseButtonsLeaveIt) {
     // View > Palette, through the menu item as the window calls it.
     frm.PALE.Click();
