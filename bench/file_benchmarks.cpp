@@ -1,5 +1,4 @@
 // Reading and writing a 1024 x 1024 skin, and the palette match, against their baselines.
-#include "bench_budgets.h"
 #include "bench_support.h"
 #include "palette/color_match.h"
 
@@ -8,15 +7,6 @@
 #include <cstring>
 
 namespace tavrin::bench {
-
-const std::vector<Budget>& budgets() {
-    static const std::vector<Budget> all = {
-        {"Get_PCX 1024x1024", "Get_PCX/path", "Get_PCX/baseline", 10, false},
-        {"ex_Click 1024x1024", "ex_Click/path", "ex_Click/baseline", 10, false},
-        {"Temp_Color_Check", "Temp_Color_Check/path", "Temp_Color_Check/baseline", 20, true},
-    };
-    return all;
-}
 
 namespace {
 

@@ -1,0 +1,18 @@
+#include "bench_budgets.h"
+
+namespace tavrin::bench {
+
+// Every budget in one place; a pair whose benchmarks were not run is left out of the check.
+const std::vector<Budget>& budgets() {
+    static const std::vector<Budget> all = {
+        {"stroke move, zoom 8", "stroke_move/path", "stroke_move/baseline", 0.01, false},
+        {"press with snapshot", "press/path", "press/baseline", 3, false},
+        {"Temp_Color_Check", "Temp_Color_Check/path", "Temp_Color_Check/baseline", 20, true},
+        {"Get_PCX 1024x1024", "Get_PCX/path", "Get_PCX/baseline", 10, false},
+        {"ex_Click 1024x1024", "ex_Click/path", "ex_Click/baseline", 10, false},
+        {"canvas region, zoom 8", "canvas_region/path", "canvas_region/baseline", 5, false},
+    };
+    return all;
+}
+
+} // namespace tavrin::bench
