@@ -1,6 +1,7 @@
 #include "platform/picture_box.h"
 
 #include "platform/vb_error.h"
+#include "platform/vb_memory.h"
 #include "platform/vb_numeric.h"
 
 #include <algorithm>

@@ -1,6 +1,6 @@
 #include "platform/raster.h"
 
-#include "platform/vb_error.h"
+#include "platform/vb_memory.h"
 
 #include <algorithm>
 
@@ -8,7 +8,7 @@ namespace platform {
 
 Raster::Raster(int w, int h, uint32_t fill) : width(w), height(h) {
     auto count = static_cast<std::size_t>(w) * static_cast<std::size_t>(h);
-    vb::checkAllocation(count, sizeof(uint32_t));
+    memory = vb::Reservation(count, sizeof(uint32_t));
     px.assign(count, fill);
 }
 

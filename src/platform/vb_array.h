@@ -3,6 +3,7 @@
 // them: an index outside the bounds, or any access to an array that isn't allocated,
 // raises "Subscript out of range". A floating index is rounded first (half to even).
 #include "platform/vb_error.h"
+#include "platform/vb_memory.h"
 #include "platform/vb_numeric.h"
 
 #include <cstdint>
@@ -20,9 +21,9 @@ public:
     void ReDim(int64_t lower, int64_t upper) {
         if (upper < lower) raise(SubscriptOutOfRange);
         auto count = static_cast<std::size_t>(upper - lower + 1);
-        checkAllocation(count, sizeof(T));
-        std::vector<T> fresh(count);
-        data_.swap(fresh);
+        Reservation memory(count, sizeof(T)); // a failure keeps what was held
+        std::vector<T>(count).swap(data_);
+        memory_ = std::move(memory);
         lower_ = lower;
         upper_ = upper;
         allocated_ = true;
@@ -30,6 +31,7 @@ public:
 
     void Erase() {
         std::vector<T>().swap(data_);
+        memory_ = Reservation();
         allocated_ = false;
         lower_ = 0;
         upper_ = -1;
@@ -67,6 +69,7 @@ private:
         return static_cast<std::size_t>(index - lower_);
     }
 
+    Reservation memory_; // before data_, so a copy is counted before it is made
     std::vector<T> data_;
     int64_t lower_ = 0;
     int64_t upper_ = -1;
@@ -78,7 +81,7 @@ template <class T> class Array3 {
 public:
     Array3(int64_t n0, int64_t n1, int64_t n2) : n0_(n0), n1_(n1), n2_(n2) {
         auto count = static_cast<std::size_t>(n0 * n1 * n2);
-        checkAllocation(count, sizeof(T));
+        memory_ = Reservation(count, sizeof(T));
         data_.assign(count, T{});
     }
 
@@ -104,6 +107,7 @@ private:
     }
 
     int64_t n0_, n1_, n2_;
+    Reservation memory_;
     std::vector<T> data_;
 };
 

@@ -23,8 +23,4 @@ std::string description(int number) {
     }
 }
 
-void checkAllocation(std::size_t count, std::size_t elementSize) {
-    if (elementSize != 0 && count > kMaxAllocationBytes / elementSize) raise(OutOfMemory);
-}
-
 } // namespace vb

@@ -51,11 +51,4 @@ template <class F> void resume(F&& statement) {
     }
 }
 
-// The largest single allocation the editor's machine could have made. Anything larger
-// (a hostile header asking for gigabytes) raises "Out of memory" instead.
-inline constexpr std::size_t kMaxAllocationBytes = std::size_t{256} << 20;
-
-// Raises OutOfMemory when count elements of elementSize bytes exceed the limit.
-void checkAllocation(std::size_t count, std::size_t elementSize);
-
 } // namespace vb

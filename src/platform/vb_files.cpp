@@ -1,6 +1,7 @@
 #include "platform/vb_files.h"
 
 #include "platform/vb_error.h"
+#include "platform/vb_memory.h"
 
 #include <algorithm>
 #include <filesystem>

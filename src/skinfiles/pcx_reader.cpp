@@ -2,6 +2,7 @@
 // the header, decodes everything between the header and the palette tail, and goes on
 // four rows past the declared height, which the zeros behind the data fill.
 #include "editor/frm_main.h"
+#include "platform/vb_memory.h"
 #include "platform/vb_numeric.h"
 
 #include <array>

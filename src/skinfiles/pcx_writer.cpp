@@ -1,6 +1,7 @@
 // Saving the skin as a PCX version 5 file, from the header, the grid and the palette
 // only. Every pixel stands alone; no palette marker byte precedes the palette.
 #include "editor/frm_main.h"
+#include "platform/vb_memory.h"
 #include "platform/vb_numeric.h"
 
 namespace tavrin {

@@ -1,9 +1,11 @@
 // The runtime's numbers, checked arrays, files by number and dynamic values: the rules
 // every reader and tool leans on.
+#include "platform/raster.h"
 #include "platform/variant.h"
 #include "platform/vb_array.h"
 #include "platform/vb_error.h"
 #include "platform/vb_files.h"
+#include "platform/vb_memory.h"
 #include "platform/vb_numeric.h"
 #include "support/test_support.h"
 
@@ -97,6 +99,19 @@ TEST(VbArray, AnAllocationAbove256MegabytesIsOutOfMemoryAndAllocatesNothing) {
     EXPECT_EQ(a.UBound(), 9); // the old allocation stands
     EXPECT_EQ(a(9), 5);
     EXPECT_EQ(errorOf([] { vb::Array3<int16_t>(40000, 40000, 3); }), vb::OutOfMemory);
+}
+
+TEST(VbArray, ArraysAliveTogetherShareOneBudgetThatFreeingGivesBack) {
+    const std::size_t before = vb::liveBytes();
+    const int64_t big = static_cast<int64_t>(vb::kMaxLiveBytes / 5 * 3 / sizeof(int16_t)); // 60 %
+    vb::Array<int16_t> grid(0, big), undo;
+    EXPECT_EQ(errorOf([&] { undo.ReDim(0, big); }), vb::OutOfMemory); // each fits, not both
+    EXPECT_FALSE(undo.allocated());
+    EXPECT_EQ(errorOf([&] { platform::Raster copy(1024, 1024, 0); }), 0);
+    EXPECT_EQ(errorOf([&] { vb::Array<int16_t> twin = grid; }), vb::OutOfMemory); // a copy counts
+    grid.Erase();
+    EXPECT_EQ(vb::liveBytes(), before);
+    EXPECT_EQ(errorOf([&] { undo.ReDim(0, big); }), 0);
 }
 
 TEST(VbFiles, GetReadsAtOneBasedPositionsAndEofShowsOnlyAfterAShortRead) {
