@@ -142,6 +142,15 @@ void FileTable::Put(int number, int64_t position, const uint8_t* bytes, std::siz
     std::copy(bytes, bytes + count, f.out.begin() + static_cast<std::ptrdiff_t>(start));
 }
 
+void FileTable::Put(int number, int64_t position, std::vector<uint8_t>&& bytes) {
+    auto& f = file(number);
+    if (position == 1 && f.writing && f.out.empty()) {
+        f.out = std::move(bytes);
+        return;
+    }
+    Put(number, position, bytes.data(), bytes.size());
+}
+
 void Kill(const std::string& path) {
     std::error_code ec;
     if (!std::filesystem::is_regular_file(path, ec)) raise(FileNotFound);

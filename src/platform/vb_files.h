@@ -46,6 +46,9 @@ public:
 
     // Put #number, position, bytes.
     void Put(int number, int64_t position, const uint8_t* bytes, std::size_t count);
+    // The same for a whole file built in memory: taken over without a copy when nothing
+    // stands in the file yet.
+    void Put(int number, int64_t position, std::vector<uint8_t>&& bytes);
 
 private:
     struct OpenFile;

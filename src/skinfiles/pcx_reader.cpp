@@ -4,11 +4,12 @@
 #include "editor/frm_main.h"
 #include "platform/vb_memory.h"
 #include "platform/vb_numeric.h"
+#include "skinfiles/pcx_runs.h"
 
-#include <array>
 #include <memory>
 
 namespace tavrin {
+
 
 void FrmMain::pcxIm_Click() {
     try {
@@ -39,14 +40,13 @@ void FrmMain::pcxIm_Click() {
 }
 
 void FrmMain::Get_PCX() {
-    std::vector<uint8_t> buffer; // cells 0 to L + 1000; cells no byte was read into hold 0
     try {
         Files.CloseAll();
         Files.OpenForRead(1, File_Name);
         const int64_t fileLength = Files.LOF(1);
+        // The decoder's cells run to L + 1000; those no byte was read into hold 0.
         const int64_t lastCell = fileLength + 1000;
         vb::checkAllocation(static_cast<std::size_t>(lastCell + 1), 1);
-        buffer.assign(static_cast<std::size_t>(lastCell + 1), 0);
 
         uint8_t low = 0, high = 0;
         int16_t ymaxField = 0;
@@ -69,64 +69,21 @@ void FrmMain::Get_PCX() {
         host_.DoEvents();
 
         // The data: positions 129 to L - 769, read in one go.
-        if (fileLength - 769 >= 129) {
-            std::vector<uint8_t> data =
-                Files.GetBytes(1, 129, static_cast<std::size_t>(fileLength - 769 - 129 + 1));
-            std::copy(data.begin(), data.end(), buffer.begin() + 129);
-        }
+        std::vector<uint8_t> data;
+        if (fileLength - 769 >= 129)
+            data = Files.GetBytes(1, 129, static_cast<std::size_t>(fileLength - 769 - 129 + 1));
+        const ValueColors values = valueColors(Pal_Table);
+        const RunGrid grid{Skin_Grid.data(), static_cast<int64_t>(Skin_Grid.size()), W, Ymax + 4};
+        const RunsDecoded decoded =
+            decodeRuns(RunCells{data.data(), static_cast<int64_t>(data.size()), lastCell}, grid, values);
 
-        // Decoded straight into a copy of Picture4's image: the same pixels that a PSet
-        // for each would give, where PSet would change them.
-        platform::Raster image = *Picture4.Image();
-        int16_t* grid = Skin_Grid.data();
-        const int64_t gridCells = static_cast<int64_t>(Skin_Grid.size());
-        auto cell = [&](int64_t p) {
-            if (p < 0 || p > lastCell) vb::raise(vb::SubscriptOutOfRange);
-            return buffer[static_cast<std::size_t>(p)];
-        };
-        // The table can't change while the file is decoded: each value's colour once. A
-        // record whose colour can't be packed fails only when a pixel uses it.
-        std::array<uint32_t, 256> colorOf{};
-        std::array<bool, 256> hasRecord{}, unpackable{};
-        for (std::size_t v = 0; v < 256; ++v) {
-            const PalRecord& record = Pal_Table(static_cast<int>(v));
-            hasRecord[v] = record.Index == static_cast<int>(v);
-            try {
-                if (hasRecord[v]) colorOf[v] = static_cast<uint32_t>(vb::RGB(record.Red, record.Green, record.Blue));
-            } catch (const vb::Error&) {
-                unpackable[v] = true;
-            }
-        }
-        int64_t p = 129, x = 0, y = 0;
-        uint32_t color = 0;
-        int16_t index = 0;
-        for (;;) {
-            int n = 1;
-            int v = cell(p);
-            if (v > 191) { // a run; 192 is a run of none that still takes its value byte
-                n = v - 192;
-                ++p;
-                v = cell(p);
-            }
-            // A value with no palette record of its own repeats the previous pixel.
-            if (hasRecord[static_cast<std::size_t>(v)]) {
-                if (unpackable[static_cast<std::size_t>(v)]) vb::raise(vb::InvalidCall);
-                color = colorOf[static_cast<std::size_t>(v)];
-                index = static_cast<int16_t>(v);
-            }
-            for (int i = 0; i < n; ++i) {
-                if (x < image.width && y < image.height) image.at(static_cast<int>(x), static_cast<int>(y)) = color;
-                const int64_t at = y * W + x;
-                if (at < 0 || at >= gridCells) vb::raise(vb::SubscriptOutOfRange);
-                grid[at] = index;
-                if (++x > W - 1) {
-                    x = 0;
-                    ++y;
-                }
-            }
-            if (y > Ymax + 4) break;
-            ++p;
-        }
+        // Picture4 (the skin less its border) shows each pixel in the colour its cell was
+        // decoded in, as a PSet for each would have left it; it is made once the decoding
+        // got through, since a failed one shows nothing.
+        const platform::PictureHandle shown = Picture4.Image();
+        const bool covered = shown->width <= W && shown->height * W <= decoded.end;
+        platform::Raster image = covered ? platform::Raster(shown->width, shown->height, 0) : *shown;
+        paintDecoded(grid, decoded, values, image);
         Picture4.Picture = std::make_shared<const platform::Raster>(std::move(image));
         picture1.Picture = Picture4.Image();
         SSPanel6.Visible = false;
