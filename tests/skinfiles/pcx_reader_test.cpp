@@ -3,6 +3,7 @@
 #include "skinfiles/pcx_test_support.h"
 
 #include <filesystem>
+#include <random>
 
 namespace tavrin::test {
 namespace {
@@ -139,6 +140,36 @@ TEST_F(PcxReader, WideSkinFillsTheGridButLeavesThePictureEmpty) {
     const std::string path = dir.write("odd.pcx", encodePcx(5, 3, odd, gamePalette(), 6, true, 0xEE));
     expectLoadedAsRules(path);
     EXPECT_EQ(frm.Skin_Grid(5), 0xEE);
+}
+
+TEST_F(PcxReader, RandomBytesDecodeAsTheRulesSay) {
+    // Runs, literals and 192s in any order, data that ends early or late, and widths on
+    // both sides of the ones whose filler rows run out: every cell of the grid, the
+    // picture where it is made, and the zeros behind the last cell written.
+    std::mt19937 rng(11);
+    for (int round = 0; round < 150; ++round) {
+        const int w = 2 + static_cast<int>(rng() % 90), h = 1 + static_cast<int>(rng() % 30);
+        Bytes file = pcxHeader(w, h, w);
+        const std::size_t dataBytes = rng() % static_cast<std::size_t>(2 * w * h + 8);
+        for (std::size_t i = 0; i < dataBytes; ++i)
+            file.push_back(static_cast<uint8_t>(rng() % 3 == 0 ? 192 + rng() % 64 : rng() % 256));
+        file.push_back(0x0C);
+        const Bytes palette = gamePalette();
+        file.insert(file.end(), palette.begin(), palette.end());
+        expectLoadedAsRules(dir.write("random.pcx", file));
+    }
+}
+
+TEST_F(PcxReader, AValueWithoutARecordRepeatsThePixelBefore) {
+    frm.Pal_Table(3).Index = 40; // no record of its own for 3 and 5
+    frm.Pal_Table(5).Index = 41;
+    frm.Pal_Table(0).Red = 200;  // so that the black of the first pixels shows
+    openSkin(host, frm, dir.write("norec.pcx", encodePcx(6, 1, {3, 3, 7, 5, 0, 5}, gamePalette())));
+    const std::vector<int16_t> grid = {0, 0, 7, 7, 0, 0};
+    for (int i = 0; i < 6; ++i) EXPECT_EQ(frm.Skin_Grid(i), grid[static_cast<std::size_t>(i)]) << i;
+    const std::vector<int32_t> shown = {0, 0, colourOf(7), colourOf(7)};
+    for (int x = 0; x < 4; ++x) EXPECT_EQ(frm.picture1.Point(x, 0), shown[static_cast<std::size_t>(x)]) << x;
+    EXPECT_EQ(frm.picture1.Point(0, 1), colourOf(0));
 }
 
 TEST_F(PcxReader, FilesFromOtherEncoders) {

@@ -88,6 +88,18 @@ TEST_F(PcxWriter, IndicesThatAreNoByteLeaveAHole) {
     frm.ex_Click();
     const Bytes saved = readFile(dir.file("odd.PCX"));
     EXPECT_EQ(Bytes(saved.begin() + 128, saved.begin() + 131), (Bytes{0xC1, 0, 0}));
+
+    // A size set past the grid: the cells it can't read repeat the last one it could.
+    frm.Skin_Grid.ReDim(0, 2);
+    frm.Skin_Grid(1) = 7;
+    frm.Skin_Grid(2) = 200;
+    frm.Skin_Width = 5; // 5 x 4 cells, 3 of them in the grid
+    host.answerSave(dir.file("past.pcx"));
+    frm.ex_Click();
+    const Bytes past = readFile(dir.file("past.PCX"));
+    Bytes pixels = {0, 7};
+    for (int i = 2; i < 20; ++i) pixels.insert(pixels.end(), {0xC1, 200});
+    EXPECT_EQ(Bytes(past.begin() + 128, past.end() - 768), pixels);
 }
 
 } // namespace
