@@ -2,6 +2,8 @@
 // above, the current palette, no marker; the target's name and the silent failures.
 #include "skinfiles/pcx_test_support.h"
 
+#include <random>
+
 namespace tavrin::test {
 namespace {
 
@@ -89,6 +91,23 @@ TEST_F(PcxWriter, IndicesThatAreNoByteLeaveAHole) {
     const Bytes saved = readFile(dir.file("odd.PCX"));
     EXPECT_EQ(Bytes(saved.begin() + 128, saved.begin() + 131), (Bytes{0xC1, 0, 0}));
 
+    // Any mix of bytes, escapes and holes, in blocks and alone.
+    std::mt19937 rng(5);
+    const int16_t values[] = {-3, 0, 5, 191, 192, 255, 256, 700};
+    frm.Skin_Grid.ReDim(0, 13 * 4 + 1000);
+    Bytes pixels;
+    for (int i = 0; i < 13 * 4; ++i) {
+        const int16_t v = values[rng() % 8];
+        frm.Skin_Grid(i) = v;
+        if (v >= 192) pixels.push_back(0xC1);
+        pixels.push_back(v >= 0 && v <= 255 ? static_cast<uint8_t>(v) : 0);
+    }
+    frm.Skin_Width = 13;
+    host.answerSave(dir.file("mix.pcx"));
+    frm.ex_Click();
+    const Bytes mix = readFile(dir.file("mix.PCX"));
+    EXPECT_EQ(Bytes(mix.begin() + 128, mix.end() - 768), pixels);
+
     // A size set past the grid: the cells it can't read repeat the last one it could.
     frm.Skin_Grid.ReDim(0, 2);
     frm.Skin_Grid(1) = 7;
@@ -97,9 +116,9 @@ TEST_F(PcxWriter, IndicesThatAreNoByteLeaveAHole) {
     host.answerSave(dir.file("past.pcx"));
     frm.ex_Click();
     const Bytes past = readFile(dir.file("past.PCX"));
-    Bytes pixels = {0, 7};
-    for (int i = 2; i < 20; ++i) pixels.insert(pixels.end(), {0xC1, 200});
-    EXPECT_EQ(Bytes(past.begin() + 128, past.end() - 768), pixels);
+    Bytes repeated = {0, 7};
+    for (int i = 2; i < 20; ++i) repeated.insert(repeated.end(), {0xC1, 200});
+    EXPECT_EQ(Bytes(past.begin() + 128, past.end() - 768), repeated);
 }
 
 } // namespace
