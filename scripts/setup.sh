@@ -1,8 +1,9 @@
 #!/bin/sh
 # Installs what building and testing Tavrin needs, on Debian or Ubuntu, when missing.
 set -eu
+# clang and libclang-rt-dev (libFuzzer for the default clang) build the fuzz targets.
 packages="cmake g++ make qt6-base-dev qt6-qpa-plugins libgl-dev libgtest-dev libgmock-dev
-          libbenchmark-dev xvfb xdotool x11-apps imagemagick"
+          libbenchmark-dev xvfb xdotool x11-apps imagemagick clang libclang-rt-dev"
 missing=""
 for p in $packages; do
     dpkg-query -W -f='${Status}' "$p" 2>/dev/null | grep -q "ok installed" || missing="$missing $p"

@@ -1,6 +1,7 @@
 #!/bin/sh
 # Sets up, builds and runs every test: the core and Qt tests, the end-to-end tests under
-# Xvfb, and the core tests again under AddressSanitizer and UndefinedBehaviorSanitizer.
+# Xvfb, the core tests again under AddressSanitizer and UndefinedBehaviorSanitizer, and
+# every file reader fuzzed for a while (scripts/fuzz.sh; TAVRIN_FUZZ_SECONDS per target).
 set -eu
 cd "$(dirname "$0")/.."
 scripts/setup.sh
@@ -15,4 +16,6 @@ cmake -S . -B build-asan -DCMAKE_BUILD_TYPE=Debug -DTAVRIN_SANITIZE=ON -DTAVRIN_
 cmake --build build-asan -j"$jobs"
 (cd build-asan && ASAN_OPTIONS=detect_leaks=1 UBSAN_OPTIONS=print_stacktrace=1 \
      ctest --output-on-failure -j"$jobs")
+
+scripts/fuzz.sh
 echo "All tests passed."
