@@ -291,45 +291,4 @@ PictureHandle PictureBox::Image() const {
     return r;
 }
 
-void PictureBox::render(const PixelRect& region, uint32_t* dst, std::ptrdiff_t stride) const {
-    PixelRect area = region.intersect(inner());
-    if (area.empty()) return;
-    auto out = [&](int64_t x, int64_t y) -> uint32_t& {
-        return dst[(y - region.y0) * stride + (x - region.x0)];
-    };
-    if (design_.autoRedraw) {
-        for (int64_t y = area.y0; y < area.y1; ++y)
-            std::copy_n(&image_->px[static_cast<std::size_t>(y) * innerW_ + area.x0],
-                        area.x1 - area.x0, &out(area.x0, y));
-        return;
-    }
-    for (int64_t y = area.y0; y < area.y1; ++y)
-        for (int64_t x = area.x0; x < area.x1; ++x) out(x, y) = background(x, y);
-    std::vector<int64_t> srcX;
-    for (const Op& op : ops_) {
-        if (auto* line = std::get_if<LineOp>(&op)) {
-            line->seg.forEach(area, [&](int64_t x, int64_t y) { out(x, y) = line->color; });
-        } else if (auto* fill = std::get_if<FillOp>(&op)) {
-            PixelRect f = fill->rect.intersect(area);
-            for (int64_t y = f.y0; y < f.y1; ++y)
-                std::fill_n(&out(f.x0, y), f.x1 - f.x0, fill->color);
-        } else {
-            const auto& p = std::get<PaintOp>(op);
-            PixelRect b = p.bounds();
-            PixelRect f = b.intersect(area);
-            if (f.empty()) continue;
-            srcX.resize(static_cast<std::size_t>(f.x1 - f.x0));
-            for (int64_t x = f.x0; x < f.x1; ++x)
-                srcX[static_cast<std::size_t>(x - f.x0)] =
-                    stretchSource(x - b.x0, p.w, 0, p.src->width);
-            for (int64_t y = f.y0; y < f.y1; ++y) {
-                int64_t sy = stretchSource(y - b.y0, p.h, 0, p.src->height);
-                const uint32_t* row = &p.src->px[static_cast<std::size_t>(sy) * p.src->width];
-                uint32_t* o = &out(f.x0, y);
-                for (std::size_t i = 0; i < srcX.size(); ++i) o[i] = row[srcX[i]];
-            }
-        }
-    }
-}
-
 } // namespace platform

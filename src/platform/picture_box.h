@@ -23,6 +23,10 @@ inline constexpr int kFilledBoxKind = 38; // Line ..., BF
 inline constexpr int kXorPen = 7;
 inline constexpr int kCopyPen = 13;
 
+// How render lays out a pixel: as the box keeps it (0x00BBGGRR), or as a screen's 32-bit
+// image does (0xFFRRGGBB), so that a view draws the result without converting it.
+enum class PixelOrder { Packed, Xrgb };
+
 class PictureBox : public Control {
 public:
     struct Design {
@@ -97,7 +101,8 @@ public:
     uint64_t contentVersion() const { return version_; }
     // Writes the inner area's pixels of region (clipped to the inner area) into dst,
     // whose first pixel is region's top left.
-    void render(const PixelRect& region, uint32_t* dst, std::ptrdiff_t stride) const;
+    void render(const PixelRect& region, uint32_t* dst, std::ptrdiff_t stride,
+                PixelOrder order = PixelOrder::Packed) const;
     std::size_t displayListSize() const { return ops_.size(); }
 
     double checkGeometry(const TwipsProp& prop, double twips) override;

@@ -6,6 +6,17 @@
 
 namespace platform {
 
+namespace {
+
+// floor(num / den) for den > 0.
+template <class T> T floorDiv(T num, T den) {
+    T q = num / den;
+    if (num % den != 0 && num < 0) --q;
+    return q;
+}
+
+} // namespace
+
 Raster::Raster(int w, int h, uint32_t fill) : width(w), height(h) {
     auto count = static_cast<std::size_t>(w) * static_cast<std::size_t>(h);
     memory = vb::Reservation(count, sizeof(uint32_t));
@@ -33,11 +44,12 @@ int64_t stretchSource(int64_t d, int64_t destExtent, int64_t srcStart, int64_t s
     int64_t n = destExtent < 0 ? -destExtent : destExtent;
     if (n == 0) return srcStart;
     if (destExtent < 0) d = n - 1 - d;
+    // In 64 bits where the product fits: a render asks this for every row and column.
+    constexpr int64_t kSmall = int64_t{1} << 30;
+    if (d >= 0 && d < kSmall && n < kSmall && srcExtent > -kSmall && srcExtent < kSmall)
+        return srcStart + floorDiv<int64_t>((2 * d + 1) * srcExtent, 2 * n);
     Wide num = (static_cast<Wide>(2) * d + 1) * srcExtent;
-    Wide den = static_cast<Wide>(2) * n;
-    Wide q = num / den;
-    if ((num % den != 0) && ((num < 0) != (den < 0))) --q;
-    return srcStart + static_cast<int64_t>(q);
+    return srcStart + static_cast<int64_t>(floorDiv<Wide>(num, static_cast<Wide>(2) * n));
 }
 
 } // namespace platform

@@ -2,6 +2,8 @@
 
 #include "platform/qt/dispatch.h"
 
+#include <algorithm>
+
 #include <QImage>
 #include <QMouseEvent>
 #include <QPaintEvent>
@@ -71,17 +73,23 @@ void PictureWidget::paintEvent(QPaintEvent* event) {
     }
     const QRect inner(inset, inset, box_.innerWidth(), box_.innerHeight());
     const QRect exposed = event->rect().intersected(inner);
-    if (!exposed.isEmpty()) {
-        // 0x00BBGGRR in memory on a little-endian machine is R, G, B, X: RGBX8888.
-        QImage image(exposed.size(), QImage::Format_RGBX8888);
-        PixelRect region{exposed.x() - inset, exposed.y() - inset,
-                         exposed.x() - inset + exposed.width(),
-                         exposed.y() - inset + exposed.height()};
-        box_.render(region, reinterpret_cast<uint32_t*>(image.bits()),
-                    image.bytesPerLine() / 4);
-        painter.drawImage(exposed.topLeft(), image);
+    if (exposed.isEmpty()) return;
+    // Rendered in the screen's own pixel layout and drawn 1:1, so that drawing is a plain
+    // copy. Done in bands: a render of a whole huge canvas takes no huge buffer.
+    constexpr int kBandPixels = 1 << 22;
+    const int bandRows = std::clamp(kBandPixels / exposed.width(), 1, exposed.height());
+    if (shown_.width() < exposed.width() || shown_.height() < bandRows)
+        shown_ = QImage(std::max(shown_.width(), exposed.width()), std::max(shown_.height(), bandRows),
+                        QImage::Format_RGB32);
+    if (shown_.isNull()) return;
+    for (int top = exposed.top(); top <= exposed.bottom(); top += bandRows) {
+        const int rows = std::min(bandRows, exposed.bottom() + 1 - top);
+        const PixelRect region{exposed.x() - inset, top - inset, exposed.x() - inset + exposed.width(),
+                               top - inset + rows};
+        box_.render(region, reinterpret_cast<uint32_t*>(shown_.bits()), shown_.bytesPerLine() / 4,
+                    PixelOrder::Xrgb);
+        painter.drawImage(QPoint(exposed.x(), top), shown_, QRect(0, 0, exposed.width(), rows));
     }
-    shownVersion_ = box_.contentVersion();
 }
 
 } // namespace platform::qt

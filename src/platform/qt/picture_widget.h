@@ -2,6 +2,7 @@
 // Shows a PictureBox: paints only the exposed region, from the box's own description.
 #include "platform/picture_box.h"
 
+#include <QImage>
 #include <QWidget>
 
 namespace platform::qt {
@@ -25,6 +26,7 @@ private:
 
     PictureBox& box_;
     uint64_t shownVersion_ = ~uint64_t{0};
+    QImage shown_; // kept between paints: a stroke repaints many times a second
 };
 
 } // namespace platform::qt
