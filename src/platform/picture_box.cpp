@@ -113,7 +113,7 @@ void PictureBox::geometryChanged(const TwipsProp& prop) {
                         &r.px[static_cast<std::size_t>(y) * w]);
     }
     if (!design_.autoRedraw) ops_.clear();
-    changedPixels();
+    changedPixels(inner());
 }
 
 // ---- content ----
@@ -133,8 +133,13 @@ void PictureBox::resetImage() {
     image_ = std::move(r);
 }
 
-Raster& PictureBox::writable() {
+// A raster that a picture handle shares stays as its holders saw it; the box goes on in
+// a copy, which remembers what it was copied from and what was written into it since.
+Raster& PictureBox::writable(const PixelRect& touched) {
     if (image_.use_count() > 1) image_ = std::make_shared<Raster>(*image_);
+    const PixelRect t = touched.intersect(inner());
+    image_->lineage.written = image_->lineage.written.unite(t);
+    changedPixels(t);
     return *image_;
 }
 
@@ -156,14 +161,14 @@ void PictureBox::onBackColor() {
 void PictureBox::Cls() {
     ops_.clear();
     resetImage();
-    changedPixels();
+    changedPixels(inner());
 }
 
 void PictureBox::Refresh() {
     // A box that keeps nothing is repainted from its picture: what was drawn is gone.
     if (!design_.autoRedraw) {
         ops_.clear();
-        changedPixels();
+        changedPixels(inner());
     }
     notify(nullptr);
 }
@@ -202,13 +207,13 @@ void PictureBox::PSet(double x, double y, int32_t color) {
     int64_t px = toPixelX(x), py = toPixelY(y);
     if (!inner().contains(px, py)) return;
     if (design_.autoRedraw) {
-        plot(writable(), px, py, rgb24(color));
+        plot(writable(PixelRect{px, py, px + 1, py + 1}), px, py, rgb24(color));
     } else {
         ops_.push_back(LineOp{LineSegment{static_cast<int32_t>(px), static_cast<int32_t>(py),
                                           static_cast<int32_t>(px), static_cast<int32_t>(py)},
                               rgb24(color)});
+        changedPixels(PixelRect{px, py, px + 1, py + 1});
     }
-    changedPixels();
 }
 
 void PictureBox::Line(double x1, double y1, double x2, double y2, int32_t color, int kind) {
@@ -238,8 +243,10 @@ void PictureBox::Line(double x1, double y1, double x2, double y2, int32_t color,
     } else {
         segments.push_back(seg(ax, ay, bx, by));
     }
+    PixelRect touched = fill ? filled : PixelRect{};
+    for (const auto& s : segments) touched = touched.unite(boundsOf(LineOp{s, c}));
     if (design_.autoRedraw) {
-        Raster& r = writable();
+        Raster& r = writable(touched);
         for (const auto& s : segments) s.forEach(inner(), [&](int64_t x, int64_t y) { plot(r, x, y, c); });
         if (fill) {
             PixelRect f = filled.intersect(inner());
@@ -249,8 +256,8 @@ void PictureBox::Line(double x1, double y1, double x2, double y2, int32_t color,
     } else {
         for (const auto& s : segments) ops_.push_back(LineOp{s, c});
         if (fill) ops_.push_back(FillOp{filled, c});
+        changedPixels(touched);
     }
-    changedPixels();
 }
 
 PixelRect PictureBox::PaintOp::bounds() const {
@@ -264,8 +271,8 @@ void PictureBox::PaintPicture(const PictureHandle& picture, double x, double y, 
     PaintOp op{picture, toPixelX(x), toPixelY(y), toPixelX(w), toPixelY(h)};
     if (picture->width == 0 || picture->height == 0 || op.w == 0 || op.h == 0) return;
     if (design_.autoRedraw) {
-        Raster& r = writable();
         PixelRect area = op.bounds().intersect(inner());
+        Raster& r = writable(area);
         PixelRect b = op.bounds();
         for (int64_t py = area.y0; py < area.y1; ++py) {
             int64_t sy = stretchSource(py - b.y0, op.h, 0, picture->height);
@@ -277,11 +284,45 @@ void PictureBox::PaintPicture(const PictureHandle& picture, double x, double y, 
         }
     } else {
         PixelRect b = op.bounds();
+        PixelRect changed = b;
         // Nothing under a picture that covers the whole box can show again.
-        if (b.x0 <= 0 && b.y0 <= 0 && b.x1 >= innerW_ && b.y1 >= innerH_) ops_.clear();
+        if (b.x0 <= 0 && b.y0 <= 0 && b.x1 >= innerW_ && b.y1 >= innerH_) {
+            changed = repaintedArea(op);
+            ops_.clear();
+        }
         ops_.push_back(std::move(op));
+        changedPixels(changed);
     }
-    changedPixels();
+}
+
+// What a picture covering the whole box changes of what it shows. Repainting a later
+// copy of the picture underneath, over the same rectangle, changes only what was
+// written into the copy and what was drawn over the old one.
+PixelRect PictureBox::repaintedArea(const PaintOp& cover) const {
+    const auto* under = ops_.empty() ? nullptr : std::get_if<PaintOp>(&ops_.front());
+    if (!under || under->x != cover.x || under->y != cover.y || under->w != cover.w ||
+        under->h != cover.h || under->src->width != cover.src->width ||
+        under->src->height != cover.src->height)
+        return inner();
+    const Lineage& now = cover.src->lineage;
+    PixelRect area;
+    if (under->src != cover.src) {
+        if (now.parent != under->src->lineage.serial) return inner();
+        area = stretchedArea(now.written, cover.src->width, cover.src->height, cover.x, cover.y,
+                             cover.w, cover.h);
+    }
+    for (std::size_t i = 1; i < ops_.size(); ++i) area = area.unite(boundsOf(ops_[i]));
+    return area;
+}
+
+PixelRect PictureBox::boundsOf(const Op& op) {
+    if (const auto* line = std::get_if<LineOp>(&op)) {
+        const LineSegment& s = line->seg;
+        return PixelRect{std::min(s.x1, s.x2), std::min(s.y1, s.y2), int64_t{std::max(s.x1, s.x2)} + 1,
+                         int64_t{std::max(s.y1, s.y2)} + 1};
+    }
+    if (const auto* fill = std::get_if<FillOp>(&op)) return fill->rect;
+    return std::get<PaintOp>(op).bounds();
 }
 
 PictureHandle PictureBox::Image() const {

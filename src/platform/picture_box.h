@@ -10,6 +10,7 @@
 
 #include <cstdint>
 #include <functional>
+#include <utility>
 #include <variant>
 #include <vector>
 
@@ -97,8 +98,9 @@ public:
     int borderPixels() const { return design_.borderPixels; }
     int innerWidth() const { return innerW_; }
     int innerHeight() const { return innerH_; }
-    // Grows with every change of what the box shows; a view repaints when it moved.
-    uint64_t contentVersion() const { return version_; }
+    // The part of the inner area whose pixels may have changed since the last call: what
+    // the one view of the box repaints.
+    PixelRect takeDamage() { return std::exchange(damage_, PixelRect{}); }
     // Writes the inner area's pixels of region (clipped to the inner area) into dst,
     // whose first pixel is region's top left.
     void render(const PixelRect& region, uint32_t* dst, std::ptrdiff_t stride,
@@ -130,10 +132,12 @@ private:
     double unitsPerPixel(bool across) const;
     PixelRect inner() const { return PixelRect{0, 0, innerW_, innerH_}; }
     uint32_t background(int64_t x, int64_t y) const;
-    Raster& writable(); // the raster, unshared
+    Raster& writable(const PixelRect& touched); // the raster, unshared, about to change there
     void plot(Raster& r, int64_t x, int64_t y, uint32_t color) const;
     void resetImage();
-    void changedPixels() { ++version_; }
+    void changedPixels(const PixelRect& area) { damage_ = damage_.unite(area.intersect(inner())); }
+    PixelRect repaintedArea(const PaintOp& cover) const;
+    static PixelRect boundsOf(const Op& op);
 
     Design design_;
     ScaleUnit unit_;
@@ -142,7 +146,7 @@ private:
     std::shared_ptr<Raster> image_; // AutoRedraw boxes
     PictureHandle picture_;
     std::vector<Op> ops_; // boxes without AutoRedraw: what was drawn since the last clear
-    uint64_t version_ = 0;
+    PixelRect damage_;
     int observerId_ = 0;
 };
 

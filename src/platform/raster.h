@@ -10,6 +10,28 @@
 
 namespace platform {
 
+// Half-open pixel rectangle.
+struct PixelRect {
+    int64_t x0 = 0, y0 = 0, x1 = 0, y1 = 0;
+    bool empty() const { return x1 <= x0 || y1 <= y0; }
+    bool contains(int64_t x, int64_t y) const { return x >= x0 && x < x1 && y >= y0 && y < y1; }
+    PixelRect intersect(const PixelRect& o) const;
+    PixelRect unite(const PixelRect& o) const; // the smallest rectangle holding both
+};
+
+// Where a raster's pixels came from: a copy descends from its source with nothing
+// written yet, and the box that writes it widens `written`. A view that shows the
+// parent then repaints only what was written, not the whole picture.
+struct Lineage {
+    uint64_t serial = fresh();
+    uint64_t parent = 0; // 0: descends from nothing known
+    PixelRect written;
+    Lineage() = default;
+    Lineage(const Lineage& from) : parent(from.serial) {}
+    Lineage& operator=(const Lineage& from);
+    static uint64_t fresh();
+};
+
 struct Raster {
     Raster() = default;
     Raster(int w, int h, uint32_t fill);
@@ -17,20 +39,13 @@ struct Raster {
     int height = 0;
     vb::Reservation memory; // before px, so a copy is counted before it is made
     std::vector<uint32_t> px; // row by row, width * height
+    Lineage lineage;
 
     uint32_t at(int x, int y) const { return px[static_cast<std::size_t>(y) * width + x]; }
     uint32_t& at(int x, int y) { return px[static_cast<std::size_t>(y) * width + x]; }
 };
 
 using PictureHandle = std::shared_ptr<const Raster>;
-
-// Half-open pixel rectangle.
-struct PixelRect {
-    int64_t x0 = 0, y0 = 0, x1 = 0, y1 = 0;
-    bool empty() const { return x1 <= x0 || y1 <= y0; }
-    bool contains(int64_t x, int64_t y) const { return x >= x0 && x < x1 && y >= y0 && y < y1; }
-    PixelRect intersect(const PixelRect& o) const;
-};
 
 // A line of pixels from (x1, y1) to (x2, y2), both ends included, one pixel per step
 // along the longer axis. contains() answers in constant time with the same rule that
@@ -52,6 +67,11 @@ private:
 // srcStart + floor((2d + 1) * srcExtent / (2 |destExtent|)), mirrored when
 // destExtent is negative. Zooming by a whole factor k gives floor(d / k).
 int64_t stretchSource(int64_t d, int64_t destExtent, int64_t srcStart, int64_t srcExtent);
+
+// The destination pixels of a picture of srcW x srcH stretched over the destination
+// rectangle (x, y, w, h; negative w or h mirrors) that take their colour from srcRect.
+PixelRect stretchedArea(const PixelRect& srcRect, int64_t srcW, int64_t srcH, int64_t x, int64_t y,
+                        int64_t w, int64_t h);
 
 // ---- inline template ----
 

@@ -8,6 +8,8 @@
 
 #include <array>
 #include <memory>
+#include <random>
+#include <vector>
 
 namespace {
 
@@ -185,6 +187,79 @@ TEST(PictureBox, ACanvasWithoutAutoRedrawAnswersPointFromWhatWasPainted) {
     canvas.box.Refresh(); // what was drawn on the canvas is gone
     EXPECT_EQ(canvas.box.Point(0, 0), kGrey);
     EXPECT_EQ(canvas.box.Point(1, 28), kGrey);
+}
+
+// A view keeps what it showed and repaints only what the box says changed. Strokes,
+// snapshots held and dropped (as undo does) and repaints of the canvas from the skin's
+// Image, at a whole and at an uneven factor, mirrored too: the view must always equal a
+// whole render, that render what Point gives, and a snapshot keep what it was taken with.
+TEST(PictureBox, AViewThatRepaintsOnlyTheDamageAlwaysShowsWhatTheBoxShows) {
+    struct Geometry {
+        int w, h;
+        bool mirrored;
+    };
+    for (const Geometry g : {Geometry{48, 30, false}, Geometry{37, 29, true}}) {
+        Box skin(16, 12), canvas(g.w, g.h, false);
+        PictureBox& c = canvas.box;
+        auto repaint = [&] {
+            if (g.mirrored) c.PaintPicture(skin.box.Image(), g.w, g.h, -g.w, -g.h);
+            else c.PaintPicture(skin.box.Image(), 0, 0, g.w, g.h);
+        };
+        const platform::PixelRect all{0, 0, g.w, g.h};
+        std::vector<uint32_t> shown(static_cast<std::size_t>(g.w * g.h)), whole(shown.size());
+        std::vector<std::pair<platform::PictureHandle, std::vector<uint32_t>>> held;
+        std::mt19937 rng(5);
+        auto any = [&rng](int n) { return static_cast<int>(rng() % static_cast<unsigned>(n)); };
+        for (int step = 0; step < 600; ++step) {
+            switch (any(7)) {
+            case 0: held.emplace_back(skin.box.Image(), skin.box.Image()->px); break;
+            case 1:
+                if (!held.empty()) {
+                    const auto it = held.begin() + any(static_cast<int>(held.size()));
+                    ASSERT_EQ(it->first->px, it->second) << "step " << step;
+                    held.erase(it);
+                }
+                break;
+            case 2: skin.box.Line(any(16), any(12), any(16), any(12), any(1 << 24), platform::kFilledBoxKind); break;
+            case 3: c.Line(any(g.w), any(g.h), any(g.w), any(g.h), kGreen, platform::kLineKind); break;
+            case 4: // undo: the picture as a snapshot kept it
+                if (!held.empty()) skin.box.Picture = held[static_cast<std::size_t>(any(static_cast<int>(held.size())))].first;
+                break;
+            default: skin.box.PSet(any(16), any(12), any(1 << 24)); break;
+            }
+            for (int look = 0; look < 2; ++look) { // before and after the repaint
+                if (look == 1) repaint();
+                const platform::PixelRect d = c.takeDamage();
+                c.render(d, &shown[static_cast<std::size_t>(d.y0 * g.w + d.x0)], g.w,
+                         platform::PixelOrder::Xrgb);
+                c.render(all, whole.data(), g.w, platform::PixelOrder::Xrgb);
+                ASSERT_EQ(shown, whole) << "step " << step;
+            }
+        }
+        for (int y = 0; y < g.h; ++y)
+            for (int x = 0; x < g.w; ++x) {
+                const auto p = static_cast<uint32_t>(c.Point(x, y));
+                const uint32_t xrgb = 0xFF000000u | (p & 0xFF00u) | (p >> 16) | ((p & 0xFFu) << 16);
+                ASSERT_EQ(whole[static_cast<std::size_t>(y * g.w + x)], xrgb) << x << "," << y;
+            }
+        for (const auto& [picture, taken] : held) EXPECT_EQ(picture->px, taken);
+    }
+}
+
+// A repaint from a copy of the picture that one pixel has changed in changes the pixels
+// that show that one, and says so of no others.
+TEST(PictureBox, ARepaintAfterOnePixelDamagesExactlyItsStretchedBlock) {
+    Box skin(7, 5), canvas(40, 30, false);
+    canvas.box.PaintPicture(skin.box.Image(), 0, 0, 40, 30);
+    canvas.box.takeDamage();
+    skin.box.PSet(3, 2, kRed);
+    canvas.box.PaintPicture(skin.box.Image(), 0, 0, 40, 30);
+    const platform::PixelRect d = canvas.box.takeDamage();
+    for (int y = 0; y < 30; ++y)
+        for (int x = 0; x < 40; ++x) {
+            const bool shows = platform::stretchSource(x, 40, 0, 7) == 3 && platform::stretchSource(y, 30, 0, 5) == 2;
+            ASSERT_EQ(d.contains(x, y), shows) << x << "," << y;
+        }
 }
 
 } // namespace

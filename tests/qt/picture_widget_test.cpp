@@ -1,11 +1,16 @@
-// The canvas widget shows exactly what the box answers with Point.
+// The canvas widget shows exactly what the box answers with Point, and after a change
+// repaints only the part that changed.
 #include "platform/form.h"
 #include "platform/picture_box.h"
 #include "platform/qt/picture_widget.h"
 
+#include <QApplication>
+#include <QEvent>
+#include <QPaintEvent>
 #include <gtest/gtest.h>
 
 #include <memory>
+#include <vector>
 
 namespace {
 
@@ -24,6 +29,14 @@ QRgb asShown(int32_t packed) {
     return qRgb(static_cast<int>(c & 0xFF), static_cast<int>((c >> 8) & 0xFF), static_cast<int>((c >> 16) & 0xFF));
 }
 
+struct PaintRects : QObject {
+    std::vector<QRect> rects;
+    bool eventFilter(QObject*, QEvent* event) override {
+        if (event->type() == QEvent::Paint) rects.push_back(static_cast<QPaintEvent*>(event)->rect());
+        return false;
+    }
+};
+
 // Larger than one band of the paint, so that the bands meet somewhere inside.
 TEST(PictureWidget, ShowsEveryPixelAsPointGivesIt) {
     platform::Form form("frmTest");
@@ -38,6 +51,31 @@ TEST(PictureWidget, ShowsEveryPixelAsPointGivesIt) {
     ASSERT_EQ(shown.size(), QSize(2100, 2050));
     for (int y = 0; y < 2050; ++y)
         for (int x = 0; x < 2100; ++x) ASSERT_EQ(shown.pixel(x, y) | 0xFF000000u, asShown(box.Point(x, y))) << x << "," << y;
+}
+
+TEST(PictureWidget, AStrokeRepaintsOnlyTheBlockOfThePixelItChanged) {
+    platform::Form form("frmTest");
+    PictureBox skin(&form, "picture1", {platform::ScaleUnit::Pixels, 0, true, 0});
+    PictureBox canvas(&form, "Picture7", {platform::ScaleUnit::Pixels, 0, false, 0});
+    skin.Width = 40 * 15;
+    skin.Height = 30 * 15;
+    canvas.Width = 320 * 15;
+    canvas.Height = 240 * 15;
+    platform::qt::PictureWidget widget(canvas, nullptr);
+    widget.resize(320, 240);
+    widget.show();
+    canvas.PaintPicture(skin.Image(), 0, 0, 320, 240);
+    widget.sync();
+    QApplication::processEvents();
+
+    PaintRects painted;
+    widget.installEventFilter(&painted);
+    skin.PSet(10, 20, 0xFF);
+    canvas.PaintPicture(skin.Image(), 0, 0, 320, 240);
+    widget.sync();
+    QApplication::processEvents();
+    ASSERT_EQ(painted.rects.size(), 1u);
+    EXPECT_EQ(painted.rects[0], QRect(80, 160, 8, 8));
 }
 
 } // namespace

@@ -55,7 +55,11 @@ void PictureWidget::mouseReleaseEvent(QMouseEvent* event) {
 }
 
 void PictureWidget::sync() {
-    if (box_.contentVersion() != shownVersion_) update();
+    const PixelRect d = box_.takeDamage();
+    if (d.empty()) return;
+    const int inset = box_.borderPixels() / 2;
+    update(QRect(static_cast<int>(d.x0) + inset, static_cast<int>(d.y0) + inset,
+                 static_cast<int>(d.x1 - d.x0), static_cast<int>(d.y1 - d.y0)));
 }
 
 void PictureWidget::paintEvent(QPaintEvent* event) {

@@ -12,7 +12,7 @@ class PictureWidget : public QWidget {
 public:
     PictureWidget(PictureBox& box, QWidget* parent);
     PictureBox& box() { return box_; }
-    // Repaints when the box's content changed since the last paint.
+    // Repaints the part of the box that changed since the last call.
     void sync();
 
 protected:
@@ -25,7 +25,6 @@ private:
     void sendMouse(const PictureBox::MouseHandler& handler, int button, QMouseEvent* event);
 
     PictureBox& box_;
-    uint64_t shownVersion_ = ~uint64_t{0};
     QImage shown_; // kept between paints: a stroke repaints many times a second
 };
 
