@@ -13,6 +13,8 @@ namespace {
 
 uint32_t rgb24(int32_t color) { return static_cast<uint32_t>(color) & 0xFFFFFFu; }
 
+int64_t area(const PixelRect& r) { return r.empty() ? 0 : (r.x1 - r.x0) * (r.y1 - r.y0); }
+
 int64_t toDevice(double v) {
     if (!std::isfinite(v)) vb::raise(vb::Overflow);
     double r = vb::roundHalfEven(v);
@@ -119,6 +121,7 @@ void PictureBox::geometryChanged(const TwipsProp& prop) {
 // ---- content ----
 
 void PictureBox::resetImage() {
+    spares_ = {};
     if (!design_.autoRedraw) {
         image_.reset();
         return;
@@ -134,11 +137,38 @@ void PictureBox::resetImage() {
 }
 
 // A raster that a picture handle shares stays as its holders saw it; the box goes on in
-// a copy, which remembers what it was copied from and what was written into it since.
+// a copy. A view's picture holds the raster drawn before, so each event of a stroke would
+// copy the whole picture: instead the box keeps the rasters it let go and, once nobody
+// else holds one, takes it back, copying in only the pixels written since it was let go.
 Raster& PictureBox::writable(const PixelRect& touched) {
-    if (image_.use_count() > 1) image_ = std::make_shared<Raster>(*image_);
+    if (image_.use_count() > 1) {
+        Spare* back = nullptr;
+        for (Spare& s : spares_)
+            if (s.raster && s.raster.use_count() == 1 && s.raster->width == image_->width &&
+                s.raster->height == image_->height && (!back || area(s.stale) < area(back->stale)))
+                back = &s;
+        std::shared_ptr<Raster> next;
+        if (back) {
+            const PixelRect st = back->stale.intersect(PixelRect{0, 0, image_->width, image_->height});
+            for (int64_t y = st.y0; y < st.y1; ++y) {
+                const auto at = static_cast<std::size_t>(y * image_->width + st.x0);
+                std::copy_n(&image_->px[at], st.x1 - st.x0, &back->raster->px[at]);
+            }
+            back->raster->lineage = image_->lineage; // now a copy with nothing written yet
+            next = std::move(back->raster);
+        } else {
+            next = std::make_shared<Raster>(*image_);
+            // An empty slot, else that of the spare that differs the most.
+            back = &spares_[0];
+            for (Spare& s : spares_)
+                if (back->raster && (!s.raster || area(s.stale) > area(back->stale))) back = &s;
+        }
+        *back = Spare{std::move(image_), PixelRect{}};
+        image_ = std::move(next);
+    }
     const PixelRect t = touched.intersect(inner());
     image_->lineage.written = image_->lineage.written.unite(t);
+    for (Spare& s : spares_) s.stale = s.stale.unite(t);
     changedPixels(t);
     return *image_;
 }

@@ -8,6 +8,7 @@
 #include "platform/controls.h"
 #include "platform/raster.h"
 
+#include <array>
 #include <cstdint>
 #include <functional>
 #include <utility>
@@ -144,6 +145,14 @@ private:
     double userW_ = 0, userH_ = 0; // user scale extents
     int innerW_ = 0, innerH_ = 0;
     std::shared_ptr<Raster> image_; // AutoRedraw boxes
+    // Rasters the box let go to picture handles, each with the part where it may differ
+    // from image_. Two, as the undo snapshot holds one of them for a whole stroke while
+    // the box and the canvas's picture pass the other back and forth.
+    struct Spare {
+        std::shared_ptr<Raster> raster;
+        PixelRect stale;
+    };
+    std::array<Spare, 2> spares_;
     PictureHandle picture_;
     std::vector<Op> ops_; // boxes without AutoRedraw: what was drawn since the last clear
     PixelRect damage_;
