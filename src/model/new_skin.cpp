@@ -4,6 +4,9 @@
 #include "editor/frm_main.h"
 #include "platform/vb_numeric.h"
 
+#include <algorithm>
+#include <cmath>
+
 namespace tavrin {
 
 void FrmMain::NewSkin_Click() {
@@ -60,11 +63,28 @@ void FrmMain::Get_NewSkin() {
 
     // Black stays 0, anything else is a line: 15, whatever colour the palette gives it.
     const double cols = Skin_Cols.num();
-    for (double y = 0; y <= Skin_Rows - 1; ++y) {
-        for (double x = 0; x <= cols - 1; ++x) {
-            Cur_Color = picture1.Point(x, y);
-            if (Cur_Color == 0) Skin_Grid(y * cols + x) = 0;
-            else if (Cur_Color != -1) Skin_Grid(y * cols + x) = 15;
+    if (picture1.ScaleWidth == picture1.innerWidth() && picture1.ScaleHeight == picture1.innerHeight()) {
+        // One unit a pixel, as Get_Frame leaves it: Point at whole units is the pixel
+        // itself, and -1 beyond the picture, which leaves the entry. The image is read
+        // in one go: a tall skin has millions of pixels.
+        const platform::PictureHandle image = picture1.Image();
+        // cols is the picture's width here, a whole number: a row's cells lie together.
+        const int across = static_cast<int>(std::min<double>(std::floor(cols), image->width));
+        const int down = std::min<int>(Skin_Rows, image->height);
+        for (int y = 0; across > 0 && y < down; ++y) {
+            static_cast<void>(Skin_Grid(y * cols + across - 1)); // checked, as each cell would be
+            const uint32_t* from = &image->px[static_cast<std::size_t>(y) * image->width];
+            std::transform(from, from + across, &Skin_Grid(y * cols),
+                           [](uint32_t c) { return static_cast<int16_t>(c == 0 ? 0 : 15); });
+        }
+        if (Skin_Rows > 0 && cols >= 1) Cur_Color = picture1.Point(std::floor(cols) - 1, Skin_Rows - 1);
+    } else {
+        for (double y = 0; y <= Skin_Rows - 1; ++y) {
+            for (double x = 0; x <= cols - 1; ++x) {
+                Cur_Color = picture1.Point(x, y);
+                if (Cur_Color == 0) Skin_Grid(y * cols + x) = 0;
+                else if (Cur_Color != -1) Skin_Grid(y * cols + x) = 15;
+            }
         }
     }
     MousePointer = 0;

@@ -30,6 +30,9 @@ TEST_F(NewSkin, BlackSkinWithTheMeshInWhiteAndAGridOf0And15) {
     EXPECT_EQ(frm.Model_Path.str(), path);
     EXPECT_EQ(frm.StatusBar1.Panels(1).Text.get(), "Ready");
     EXPECT_EQ(frm.Picture7.Point(10, 1), 0xFFFFFF);
+    // The scan leaves the colour of the last pixel it read, a line's here.
+    newSkin(write(Md2{.skinWidth = 6, .skinHeight = 4, .st = {{0, 0}, {5, 3}}, .tris = {{0, 1, 1}}}));
+    EXPECT_EQ(frm.Cur_Color, 0xFFFFFF);
 }
 
 TEST_F(NewSkin, ReaderTakesWhatTheFileSaysUpToItsTables) {
