@@ -59,6 +59,18 @@ void Editor::openBigSkin() {
     frm.pcxIm_Click();
 }
 
+void Editor::zoomIn(int presses) {
+    frm.mZoom_Click();
+    for (int i = 0; i < presses; ++i) {
+        const auto x = static_cast<float>(frm.Picture7.ScaleWidth / 2);
+        const auto y = static_cast<float>(frm.Picture7.ScaleHeight / 2);
+        frm.Picture7.MouseDown(1, 0, x, y);
+        frm.Picture7.MouseUp(1, 0, x, y);
+    }
+}
+
+void Editor::choosePencil() { frm.pEdit_Click(); }
+
 const std::string& bigSkinPath() {
     static const std::string path = [] {
         std::string p = (fs::temp_directory_path() / ("tavrin-bench-skin-" + std::to_string(getpid()) + ".pcx")).string();

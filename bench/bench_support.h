@@ -17,6 +17,11 @@ struct Editor {
     ~Editor();
     // Opens the 1024 x 1024 skin through the open command.
     void openBigSkin();
+    // Zooms in with the zoom tool as the user does: left presses in the canvas's middle,
+    // each doubling it.
+    void zoomIn(int presses);
+    // The pencil, as its menu item chooses it.
+    void choosePencil();
 };
 
 // A 1024 x 1024 PCX with the runs of a painted skin: patches of one colour broken by
