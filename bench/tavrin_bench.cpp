@@ -49,7 +49,7 @@ int main(int argc, char** argv) {
         const double ratio = b.atLeast ? base->second / path->second : path->second / base->second;
         const bool met = b.atLeast ? ratio >= b.budget : ratio <= b.budget;
         const bool failed = margin > 0 && (b.atLeast ? ratio * margin < b.budget : ratio > b.budget * margin);
-        std::printf("%-28s %12.3f %s %10.3f %s\n", b.name, ratio, b.atLeast ? ">=" : "<=", b.budget,
+        std::printf("%-28s %12.4g %s %10.4g %s\n", b.name, ratio, b.atLeast ? ">=" : "<=", b.budget,
                     met ? "met" : (failed ? "MISSED" : "missed (within margin)"));
         if (failed) ok = false;
     }

@@ -3,7 +3,7 @@
 set -eu
 # clang and libclang-rt-dev (libFuzzer for the default clang) build the fuzz targets.
 packages="cmake g++ make qt6-base-dev qt6-qpa-plugins libgl-dev libgtest-dev libgmock-dev
-          libbenchmark-dev xvfb xdotool x11-apps imagemagick clang libclang-rt-dev"
+          libbenchmark-dev xvfb xdotool x11-apps imagemagick time python3 clang libclang-rt-dev"
 missing=""
 for p in $packages; do
     dpkg-query -W -f='${Status}' "$p" 2>/dev/null | grep -q "ok installed" || missing="$missing $p"

@@ -1,7 +1,7 @@
 #!/bin/sh
 # Sets up, builds and runs every test: the core and Qt tests, the end-to-end tests under
-# Xvfb, the core tests again under AddressSanitizer and UndefinedBehaviorSanitizer, and
-# every file reader fuzzed for a while (scripts/fuzz.sh; TAVRIN_FUZZ_SECONDS per target).
+# Xvfb, the speed budgets and the peak memory, the core tests again under AddressSanitizer
+# and UndefinedBehaviorSanitizer, and every file reader fuzzed for a while (scripts/fuzz.sh; TAVRIN_FUZZ_SECONDS per target).
 set -eu
 cd "$(dirname "$0")/.."
 scripts/setup.sh
@@ -10,6 +10,11 @@ jobs="$(nproc)"
 cmake -S . -B build-test -DCMAKE_BUILD_TYPE=RelWithDebInfo -DTAVRIN_WERROR=ON >/dev/null
 cmake --build build-test -j"$jobs"
 (cd build-test && ctest --output-on-failure -j"$jobs")
+# The speed budgets, briefly, with room for a busy machine; then the peak memory.
+build-test/tavrin-bench --benchmark_min_time=0.1 --check 3 >build-test/bench.log 2>&1 ||
+    { cat build-test/bench.log; exit 1; }
+sed -n '/^hot path/,$p' build-test/bench.log
+bench/peak_memory.sh build-test
 
 cmake -S . -B build-asan -DCMAKE_BUILD_TYPE=Debug -DTAVRIN_SANITIZE=ON -DTAVRIN_QT=OFF \
       -DTAVRIN_BENCH=OFF -DTAVRIN_WERROR=ON >/dev/null
