@@ -57,9 +57,11 @@ for t in $targets; do
             -rss_limit_mb=512 -malloc_limit_mb=512 -print_final_stats=1 \
             -artifact_prefix="$found/" ${TAVRIN_FUZZ_ARGS:-} "$corpus" >"$log" 2>&1 || rc=$?
     execs="$(sed -n 's/^stat::number_of_executed_units: *//p' "$log" | tail -n 1)"
+    # With -fork the count stands only in the progress lines.
+    [ -n "$execs" ] || execs="$(sed -n 's/^#\([0-9]*\): cov:.*/\1/p' "$log" | tail -n 1)"
     rss="$(sed -n 's/^stat::peak_rss_mb: *//p' "$log" | tail -n 1)"
     line="fuzz_$t: ${execs:-?} executions, peak RSS ${rss:-?} MB"
-    if [ "$rc" -ne 0 ] || grep -qE 'ERROR: (libFuzzer|AddressSanitizer|LeakSanitizer)|runtime error:' "$log"; then
+    if [ "$rc" -ne 0 ] || [ -n "$(ls -A "$found")" ] || grep -qE 'ERROR: (libFuzzer|AddressSanitizer|LeakSanitizer)|runtime error:' "$log"; then
         status=1
         line="$line: FAILED (exit $rc)"
         grep -E '^fuzz_|^==[0-9]+== ?ERROR|runtime error:|^SUMMARY|out-of-memory|Timeout|leak' "$log" | head -n 8
