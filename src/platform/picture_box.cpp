@@ -126,7 +126,16 @@ void PictureBox::resetImage() {
         image_.reset();
         return;
     }
-    auto r = std::make_shared<Raster>(innerW_, innerH_, rgb24(BackColor));
+    std::shared_ptr<Raster> r;
+    if (image_ && image_.use_count() == 1 && image_->width == innerW_ && image_->height == innerH_) {
+        // Cleared in place: a box that held a huge picture alone can always be cleared,
+        // without a second one beside it for a moment.
+        r = std::move(image_);
+        std::fill(r->px.begin(), r->px.end(), rgb24(BackColor));
+        r->lineage = {};
+    } else {
+        r = std::make_shared<Raster>(innerW_, innerH_, rgb24(BackColor));
+    }
     if (picture_) {
         int cw = std::min(picture_->width, innerW_), ch = std::min(picture_->height, innerH_);
         for (int y = 0; cw > 0 && y < ch; ++y)
