@@ -27,7 +27,10 @@ void openSkin(FrmMain& frm, platform::ScriptedHost& host, const Input& in) {
     frm.pcxIm_Click();
 }
 
+// A failed reading leaves its file open until a command closes every file (reading a
+// skin, a model or saving does); each reading here starts as after such a command.
 void readPalette(FrmMain& frm, platform::ScriptedHost&, const Input& in) {
+    frm.Files.CloseAll();
     frm.Pal_Path = in.path;
     if (in.size > 0 && (in.data[0] & 1)) frm.Pal_Answer = 6;
     frm.Get_Pal();

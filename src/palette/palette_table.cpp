@@ -53,8 +53,6 @@ void FrmMain::Get_Pal() {
         Files.Close(1);
         paletteChanged();
     } catch (const vb::Error&) {
-        // A failed reading closes its file, so that the next one can open it again.
-        vb::resume([&] { Files.Close(1); });
         paletteChanged(); // records may have been written before the failure
         host_.MsgBox("Path/File not found, or not a valid file.", platform::kStyleOk);
     }
