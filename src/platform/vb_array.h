@@ -17,7 +17,9 @@
 namespace vb {
 
 // Gives arrays their memory already zeroed by calloc: a fresh grid of megabytes costs
-// nothing until it is touched, instead of a pass writing zeros over it.
+// nothing until it is touched, instead of a pass writing zeros over it. A number is
+// "constructed" by leaving calloc's zero, so such a vector is made at its size once and
+// never grown into memory it used before.
 template <class T> struct ZeroedAllocator {
     using value_type = T;
     ZeroedAllocator() = default;
