@@ -80,15 +80,16 @@ void appendPixels(std::vector<uint8_t>& file, const vb::Array<int16_t>& grid, in
     const int64_t cells = grid.allocated() ? std::min(count, static_cast<int64_t>(grid.size())) : 0;
     const int16_t* in = grid.data();
     const int16_t last = cells > 0 ? in[cells - 1] : 0;
-    const int64_t size =
-        count + std::count_if(in, in + cells, escaped) + (escaped(last) ? count - cells : 0);
-    constexpr std::size_t kRoom = 16; // what the writers may write past the end
+    // Room for the most the cells can take, every one escaped, and the writers' overrun;
+    // cut back to what was written. Cheaper than a pass that counts the escapes first.
+    constexpr int64_t kRoom = 16;
     const std::size_t at = file.size();
-    file.reserve(at + static_cast<std::size_t>(size) + kRoom + 3 * 256); // the palette follows
-    file.resize(at + static_cast<std::size_t>(size) + kRoom);
+    const auto most = static_cast<std::size_t>(2 * count + kRoom);
+    file.reserve(at + most + 3 * 256); // the palette follows
+    file.resize(at + most);
     uint8_t* out = putCells(file.data() + at, in, cells);
     for (int64_t k = cells; k < count; ++k) out = putCell(out, last);
-    file.resize(at + static_cast<std::size_t>(size));
+    file.resize(static_cast<std::size_t>(out - file.data()));
 }
 
 } // namespace
