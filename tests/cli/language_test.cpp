@@ -7,28 +7,28 @@
 namespace tavrin::test {
 namespace {
 
-TEST(ScriptLanguage, QuotedTokensKeepBlanksAndTheirTwoEscapes) {
-    DriverRun r = runDriver("set File_Name \"a b\\\\c \\\"d\\\"\"\n"
-                            "print File_Name\n"
-                            "set Skin_Path   bare\\path  \n"
-                            "print Skin_Path\n");
-    EXPECT_EQ(r.status, 0) << r.err;
-    EXPECT_EQ(r.out, "File_Name=\"a b\\\\c \\\"d\\\"\"\nSkin_Path=\"bare\\\\path\"\n");
-}
-
-TEST(ScriptLanguage, CommentsBlankLinesAndCarriageReturnsAreSkipped) {
-    DriverRun r = runDriver("# a comment\n\n   \t\n  # indented comment\r\nprint Skin_Rows\r\n");
-    EXPECT_EQ(r.status, 0) << r.err;
-    EXPECT_EQ(r.out, "Skin_Rows=0\n");
-}
-
-TEST(ScriptLanguage, NumbersAreDecimalSignedFractionalOrHex) {
-    DriverRun r = runDriver("set Cur_Color 0x00FF00\nprint Cur_Color\n"
-                            "set Skin_Rows -32768\nprint Skin_Rows\n"
-                            "set Skin_Rows 0xFFFF\nprint Skin_Rows\n"
-                            "set Scale_X -12.5\nprint Scale_X\n");
-    EXPECT_EQ(r.status, 0) << r.err;
-    EXPECT_EQ(r.out, "Cur_Color=65280\nSkin_Rows=-32768\nSkin_Rows=-1\nScale_X=-12.5\n");
+TEST(ScriptLanguage, TokensCommentsAndNumbersAsTheyAreWritten) {
+    struct Case {
+        const char* script;
+        const char* out;
+    };
+    const Case cases[] = {
+        // Quoted tokens keep their blanks and the two escapes.
+        {"set File_Name \"a b\\\\c \\\"d\\\"\"\nprint File_Name\n"
+         "set Skin_Path   bare\\path  \nprint Skin_Path\n",
+         "File_Name=\"a b\\\\c \\\"d\\\"\"\nSkin_Path=\"bare\\\\path\"\n"},
+        // Comments, blank lines and carriage returns are skipped.
+        {"# a comment\n\n   \t\n  # indented comment\r\nprint Skin_Rows\r\n", "Skin_Rows=0\n"},
+        // Numbers: decimal, signed, fractional or hexadecimal.
+        {"set Cur_Color 0x00FF00\nprint Cur_Color\nset Skin_Rows -32768\nprint Skin_Rows\n"
+         "set Skin_Rows 0xFFFF\nprint Skin_Rows\nset Scale_X -12.5\nprint Scale_X\n",
+         "Cur_Color=65280\nSkin_Rows=-32768\nSkin_Rows=-1\nScale_X=-12.5\n"},
+    };
+    for (const Case& c : cases) {
+        DriverRun r = runDriver(c.script);
+        EXPECT_EQ(r.status, 0) << r.err;
+        EXPECT_EQ(r.out, c.out) << c.script;
+    }
 }
 
 TEST(ScriptLanguage, LinesThatDontParseStopWithStatus2AndTheirLineNumber) {
