@@ -3,26 +3,14 @@
 #include "platform/vb_numeric.h"
 
 #include <algorithm>
+#include <bit>
 #include <cstring>
 
+#if defined(__SSE2__)
+#include <emmintrin.h>
+#endif
+
 namespace tavrin {
-
-namespace {
-
-// Most runs are short. The fast decoder writes a span of 16 cells for every run, more
-// spans only for a longer one, without looking at where the run ends inside its last
-// span: the cells past the run are written again by the runs after it, and whatever the
-// last spans left behind the end is put back to 0. A run is at most 63 cells: 4 spans.
-constexpr int64_t kSpan = 16, kMaxSpans = 4;
-
-inline void fillSpan(int16_t* at, int16_t value) {
-    int16_t pattern[8];
-    std::fill_n(pattern, 8, value);
-    std::memcpy(at, pattern, sizeof pattern);
-    std::memcpy(at + 8, pattern, sizeof pattern);
-}
-
-} // namespace
 
 ValueColors valueColors(const vb::Array<PalRecord>& table) {
     ValueColors values;
@@ -39,56 +27,174 @@ ValueColors valueColors(const vb::Array<PalRecord>& table) {
     return values;
 }
 
+namespace {
+
+// Most runs are short. The fast decoder writes two spans of 16 cells for every run, two
+// more only for a longer one, without looking at where the run ends inside them: the
+// cells past the run are written again by the runs after it, and whatever the last spans
+// left behind the end is put back to 0. A run is at most 63 cells: 4 spans.
+constexpr int64_t kSpan = 16, kMaxSpans = 4;
+
+inline void fillSpan(int16_t* at, int16_t value) {
+    int16_t pattern[8];
+    std::fill_n(pattern, 8, value);
+    std::memcpy(at, pattern, sizeof pattern);
+    std::memcpy(at + 8, pattern, sizeof pattern);
+}
+
+// Where decoding stands: the file cell read next, the grid cell written next, and the
+// end of what the spans may have written past it.
+struct Cursor {
+    int64_t p = 0, at = 0, dirty = 0;
+    int16_t index = 0;
+    bool recorded = false;
+};
+
+// Bytes above 191 (their top two bits set) of a 64-byte block, one bit each.
+inline uint64_t markerBits(const uint8_t* block) {
+    uint64_t bits = 0;
+#if defined(__SSE2__)
+    for (int k = 0; k < 4; ++k) {
+        const __m128i x = _mm_loadu_si128(reinterpret_cast<const __m128i*>(block + 16 * k));
+        const auto top = static_cast<uint32_t>(_mm_movemask_epi8(x));
+        const auto next = static_cast<uint32_t>(_mm_movemask_epi8(_mm_add_epi8(x, x)));
+        bits |= uint64_t{top & next} << (16 * k);
+    }
+#else
+    for (int i = 0; i < 64; ++i) bits |= uint64_t{block[i] > 191} << i;
+#endif
+    return bits;
+}
+
+// The bytes of a block that are the value of a run begun before them. A run's count byte
+// and its value are both above 191 when the value is: in a row of such bytes the first
+// is a count (the byte before the row ends a run or a pixel), and counts and values then
+// alternate. So the counts are the bits at an even distance from their row's first. The
+// first byte is a value when the last count of the block before stood at its end (carry).
+inline uint64_t valueBits(uint64_t markers, uint64_t& carry) {
+    constexpr uint64_t even = 0x5555555555555555u;
+    const uint64_t m = markers & ~carry;
+    const uint64_t firsts = m & ~(m << 1);
+    const uint64_t evenRows = m & ~(m + (firsts & even)); // adding clears rows begun on even bits
+    const uint64_t counts = (evenRows & even) | (m & ~evenRows & ~even);
+    const uint64_t values = counts << 1 | carry;
+    carry = counts >> 63;
+    return values;
+}
+
+// Each first byte's run: its length, and whether a value byte follows (1) or not (0).
+// Looked up rather than worked out, as fewer instructions a run is what counts here.
+struct RunTable {
+    std::array<uint8_t, 256> length{}, valueAfter{};
+    constexpr RunTable() {
+        for (int b = 0; b < 256; ++b) {
+            valueAfter[static_cast<std::size_t>(b)] = b > 191;
+            length[static_cast<std::size_t>(b)] = static_cast<uint8_t>(b > 191 ? b - 192 : 1);
+        }
+    }
+};
+constexpr RunTable kRuns;
+
+// The runs of the file 64 bytes at a time while a whole block and the byte after it are
+// data and every value's colour can be packed: the run boundaries come from the block's
+// bits, so no run waits on the one before it to know where it starts. Stops early where
+// a run might need checking (too near the grid's end) or the decoding is done. Made
+// apart for the usual palette, where every value has its record, as the test for one
+// costs as much as the rest of a run.
+template <bool everyValueRecorded>
+void decodeBlocks(const RunCells& file, const RunGrid& grid, const ValueColors& values, int64_t stop,
+                  Cursor& c, RunsDecoded& out) {
+    // Kept in locals: the grid's cells could alias anything held by reference.
+    int16_t* const cells = grid.cells;
+    const int64_t last = grid.count - kSpan * kMaxSpans; // the last cell a run may start at
+    const bool* const hasRecord = values.hasRecord.data();
+    int64_t at = c.at, dirty = c.dirty, p = -1, blackCells = out.blackCells;
+    int16_t index = c.index;
+    bool recorded = c.recorded;
+    uint64_t carry = 0;
+    int64_t start = 0;
+    for (; p < 0 && start + 64 < file.count; start += 64) {
+        const uint8_t* block = file.data + start;
+        for (uint64_t runs = ~valueBits(markerBits(block), carry); runs != 0; runs &= runs - 1) {
+            const int i = std::countr_zero(runs);
+            if (at > last) {
+                p = start + i;
+                break;
+            }
+            const uint8_t b = block[i];
+            const int64_t isRun = kRuns.valueAfter[b], n = kRuns.length[b];
+            const uint8_t v = block[i + isRun];
+            const bool has = everyValueRecorded || hasRecord[v];
+            if (has && !recorded) {
+                blackCells = at;
+                recorded = true;
+            }
+            index = has ? v : index;
+            fillSpan(cells + at, index);
+            fillSpan(cells + at + kSpan, index);
+            if (n > 2 * kSpan) {
+                fillSpan(cells + at + 2 * kSpan, index);
+                fillSpan(cells + at + 3 * kSpan, index);
+            }
+            dirty = at + kSpan * kMaxSpans;
+            at += n;
+            if (at >= stop) {
+                p = start + i + 1 + isRun;
+                break;
+            }
+        }
+    }
+    c.p = p >= 0 ? p : start + static_cast<int64_t>(carry);
+    c.at = at;
+    c.dirty = dirty;
+    c.index = index;
+    c.recorded = recorded;
+    out.blackCells = blackCells;
+}
+
+} // namespace
+
 RunsDecoded decodeRuns(const RunCells& file, const RunGrid& grid, const ValueColors& values) {
     const int64_t stop = (grid.lastRow + 1) * grid.width; // the first cell of the row after
     const int64_t lastP = file.lastCell - 129;
-    int64_t p = 0, at = 0, dirty = 0; // file cell (0 is position 129), grid cell, overshoot
-    int16_t index = 0;
-    bool recorded = false;
+    Cursor c; // file cell 0 is position 129
     RunsDecoded out;
-    // A value with a record sets the index; any other repeats the one before.
+    // What the spans wrote past the last run is put back to 0.
     auto clearOvershoot = [&] {
-        const int64_t end = std::min(dirty, grid.count);
-        if (end > at) std::fill(grid.cells + at, grid.cells + end, int16_t{0});
-    };
-    auto take = [&](uint8_t v) {
-        if (!values.hasRecord[v]) return;
-        if (values.unpackable[v]) vb::raise(vb::InvalidCall);
-        if (!recorded) out.blackCells = at;
-        recorded = true;
-        index = v;
+        const int64_t end = std::min(c.dirty, grid.count);
+        if (end > c.at) std::fill(grid.cells + c.at, grid.cells + end, int16_t{0});
     };
     try {
-        // Both bytes of a run among the data, and a whole span inside the grid.
-        while (p + 1 < file.count && at + kSpan * kMaxSpans <= grid.count) {
-            const uint8_t b = file.data[p];
-            const int64_t isRun = b > 191;
-            const int64_t n = 1 + (int64_t{b} - 193) * isRun; // no branch to mispredict
-            take(file.data[p + isRun]);
-            p += 1 + isRun;
-            fillSpan(grid.cells + at, index);
-            for (int64_t k = kSpan; k < n; k += kSpan) fillSpan(grid.cells + at + k, index);
-            dirty = std::max(dirty, at + kSpan * kMaxSpans);
-            at += n;
-            if (at >= stop) break;
+        auto all = [](const std::array<bool, 256>& a, bool want) {
+            return std::all_of(a.begin(), a.end(), [want](bool x) { return x == want; });
+        };
+        if (all(values.unpackable, false)) {
+            if (all(values.hasRecord, true)) decodeBlocks<true>(file, grid, values, stop, c, out);
+            else decodeBlocks<false>(file, grid, values, stop, c, out);
         }
-        // The rest one run at a time, every cell and byte checked.
+        // The rest one run at a time, every cell and byte checked. A value with a record
+        // sets the index; any other repeats the one before.
         auto cell = [&](int64_t q) -> uint8_t {
             if (q > lastP) vb::raise(vb::SubscriptOutOfRange);
             return q < file.count ? file.data[q] : 0;
         };
-        while (at < stop) {
+        while (c.at < stop) {
             int64_t n = 1;
-            uint8_t v = cell(p);
+            uint8_t v = cell(c.p);
             if (v > 191) {
                 n = v - 192;
-                v = cell(++p);
+                v = cell(++c.p);
             }
-            take(v);
-            ++p;
-            const int64_t fits = std::clamp<int64_t>(grid.count - at, 0, n);
-            std::fill_n(grid.cells + at, fits, index);
-            at += fits;
+            if (values.hasRecord[v]) {
+                if (values.unpackable[v]) vb::raise(vb::InvalidCall);
+                if (!c.recorded) out.blackCells = c.at;
+                c.recorded = true;
+                c.index = v;
+            }
+            ++c.p;
+            const int64_t fits = std::clamp<int64_t>(grid.count - c.at, 0, n);
+            std::fill_n(grid.cells + c.at, fits, c.index);
+            c.at += fits;
             if (fits < n) vb::raise(vb::SubscriptOutOfRange);
         }
     } catch (const vb::Error&) {
@@ -96,8 +202,8 @@ RunsDecoded decodeRuns(const RunCells& file, const RunGrid& grid, const ValueCol
         throw;
     }
     clearOvershoot();
-    out.end = at;
-    if (!recorded) out.blackCells = at;
+    out.end = c.at;
+    if (!c.recorded) out.blackCells = c.at;
     return out;
 }
 

@@ -1,5 +1,6 @@
 #include "skinfiles/pcx_test_support.h"
 
+#include <algorithm>
 #include <map>
 
 namespace tavrin::test {
@@ -39,7 +40,7 @@ Bytes encodePcx(int width, int height, const std::vector<uint8_t>& indices, cons
     return out;
 }
 
-ExpectedLoad expectedLoad(const Bytes& file) {
+ExpectedLoad expectedLoad(const Bytes& file, const std::vector<int>& unrecorded) {
     ExpectedLoad e;
     const int64_t L = static_cast<int64_t>(file.size());
     auto at = [&](int64_t pos) -> int { return pos >= 1 && pos <= L ? file[static_cast<std::size_t>(pos - 1)] : 0; };
@@ -70,7 +71,7 @@ ExpectedLoad expectedLoad(const Bytes& file) {
             if (!next) return e;
             v = *next;
         }
-        index = v; // with the game palette every record carries its own number
+        if (std::find(unrecorded.begin(), unrecorded.end(), v) == unrecorded.end()) index = v;
         for (int i = 0; i < n; ++i) {
             if (y * e.width + x >= cells) return e;
             e.grid[static_cast<std::size_t>(y * e.width + x)] = static_cast<int16_t>(index);

@@ -15,13 +15,14 @@ Bytes pcxHeader(int width, int height, int bytesPerLine, int xmin = 0, int ymin 
 Bytes encodePcx(int width, int height, const std::vector<uint8_t>& indices, const Bytes& palette,
                 int bytesPerLine = 0, bool marker = true, uint8_t padByte = 0);
 
-// What the reader makes of a file, worked out one byte at a time from its rules.
+// What the reader makes of a file, worked out one byte at a time from its rules. A value
+// in `unrecorded` has no record of its own in the palette table.
 struct ExpectedLoad {
     int64_t width = 0, ymax = 0;
     std::vector<int16_t> grid;  // empty when the grid was never made
     bool completed = false;     // the decoding reached its end: picture1 gets the picture
 };
-ExpectedLoad expectedLoad(const Bytes& file);
+ExpectedLoad expectedLoad(const Bytes& file, const std::vector<int>& unrecorded = {});
 
 // Opens the file through the menu command, answering the palette question.
 void openSkin(platform::ScriptedHost& host, FrmMain& frm, const std::string& path,
