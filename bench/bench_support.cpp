@@ -18,21 +18,20 @@ std::string makeFolder() {
     return dir.string();
 }
 
-std::vector<uint8_t> encodeBigSkin() {
-    const int w = 1024, h = 1024;
+const std::string kRealSkin = "md2/SnowfallEagle-Volition3D/Bin/Assets/Models/Blade/blade.pcx";
+constexpr int kBig = 1024;
+
+std::vector<uint8_t> encodeBigSkin(const std::vector<uint8_t>& pixels) {
+    const int w = kBig, h = kBig;
     std::vector<uint8_t> out(128, 0);
     out[0] = 10, out[1] = 5, out[2] = 1, out[3] = 8;
     out[8] = (w - 1) & 0xFF, out[9] = (w - 1) >> 8, out[10] = (h - 1) & 0xFF, out[11] = (h - 1) >> 8;
     out[65] = 1, out[66] = w & 0xFF, out[67] = w >> 8, out[68] = 1;
-    std::mt19937 rng(7);
     for (int y = 0; y < h; ++y) {
-        std::vector<uint8_t> row(w);
-        for (int x = 0; x < w; ++x)
-            row[static_cast<std::size_t>(x)] = rng() % 8 == 0 ? static_cast<uint8_t>(rng() % 256)
-                                                              : static_cast<uint8_t>(((x / 24) * 7 + (y / 32) * 13) % 256);
-        for (std::size_t i = 0; i < row.size();) {
-            std::size_t n = 1;
-            while (i + n < row.size() && row[i + n] == row[i] && n < 63) ++n;
+        const uint8_t* row = pixels.data() + static_cast<std::size_t>(y) * w;
+        for (int i = 0; i < w;) {
+            int n = 1;
+            while (i + n < w && row[i + n] == row[i] && n < 63) ++n;
             if (n > 1 || row[i] >= 192) out.push_back(static_cast<uint8_t>(192 + n));
             out.push_back(row[i]);
             i += n;
@@ -42,6 +41,33 @@ std::vector<uint8_t> encodeBigSkin() {
     std::ifstream pal(TAVRIN_PALETTE_FILE, std::ios::binary);
     out.insert(out.end(), std::istreambuf_iterator<char>(pal), std::istreambuf_iterator<char>());
     return out;
+}
+
+// The pixels of a real skin repeated over 1024 x 1024, so that the runs are a painted
+// skin's; without the real files, patches of one colour broken by noise.
+std::vector<uint8_t> bigSkinPixels() {
+    std::vector<uint8_t> pixels(static_cast<std::size_t>(kBig) * kBig);
+    const fs::path real = fs::path(TAVRIN_REALDATA) / kRealSkin;
+    if (fs::exists(real)) {
+        Editor e;
+        e.host.answerOpen(real.string());
+        e.host.answerMsgBox(platform::kMsgNo);
+        e.frm.pcxIm_Click();
+        const int w = e.frm.Skin_Width, h = e.frm.Skin_Height - 4;
+        if (w > 0 && h > 0) {
+            for (int y = 0; y < kBig; ++y)
+                for (int x = 0; x < kBig; ++x)
+                    pixels[static_cast<std::size_t>(y) * kBig + x] =
+                        static_cast<uint8_t>(e.frm.Skin_Grid((y % h) * w + x % w));
+            return pixels;
+        }
+    }
+    std::mt19937 rng(7);
+    for (int y = 0; y < kBig; ++y)
+        for (int x = 0; x < kBig; ++x)
+            pixels[static_cast<std::size_t>(y) * kBig + x] =
+                rng() % 8 == 0 ? static_cast<uint8_t>(rng() % 256) : static_cast<uint8_t>(((x / 24) * 7 + (y / 32) * 13) % 256);
+    return pixels;
 }
 
 } // namespace
@@ -74,7 +100,7 @@ void Editor::choosePencil() { frm.pEdit_Click(); }
 const std::string& bigSkinPath() {
     static const std::string path = [] {
         std::string p = (fs::temp_directory_path() / ("tavrin-bench-skin-" + std::to_string(getpid()) + ".pcx")).string();
-        std::vector<uint8_t> bytes = encodeBigSkin();
+        std::vector<uint8_t> bytes = encodeBigSkin(bigSkinPixels());
         std::ofstream(p, std::ios::binary).write(reinterpret_cast<const char*>(bytes.data()),
                                                  static_cast<std::streamsize>(bytes.size()));
         return p;
@@ -85,7 +111,7 @@ const std::string& bigSkinPath() {
 std::vector<int32_t> skinColours() {
     Editor e;
     std::string path = bigSkinPath();
-    const fs::path real = fs::path(TAVRIN_REALDATA) / "md2/SnowfallEagle-Volition3D/Bin/Assets/Models/Blade/blade.pcx";
+    const fs::path real = fs::path(TAVRIN_REALDATA) / kRealSkin;
     if (fs::exists(real)) path = real.string();
     e.host.answerOpen(path);
     e.host.answerMsgBox(platform::kMsgYes);

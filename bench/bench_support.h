@@ -24,8 +24,8 @@ struct Editor {
     void choosePencil();
 };
 
-// A 1024 x 1024 PCX with the runs of a painted skin: patches of one colour broken by
-// noise. Written once per run.
+// A 1024 x 1024 PCX with the runs of a painted skin: a real skin repeated when the real
+// files are there, else patches of one colour broken by noise. Written once per run.
 const std::string& bigSkinPath();
 
 // The colours of a real skin if the real files are there, else of the big skin.

@@ -30,9 +30,10 @@ ValueColors valueColors(const vb::Array<PalRecord>& table) {
 namespace {
 
 // Most runs are short. The fast decoder writes two spans of 16 cells for every run, two
-// more only for a longer one, without looking at where the run ends inside them: the
-// cells past the run are written again by the runs after it, and whatever the last spans
-// left behind the end is put back to 0. A run is at most 63 cells: 4 spans.
+// more only for a longer one, and a span of 16 pixels for the single pixels before it,
+// more only for a longer stretch, without looking at where the run or the stretch ends:
+// the cells past it are written again by what comes after, and whatever the last spans
+// left behind the end is put back to 0. A run or a stretch is at most 64 cells: 4 spans.
 constexpr int64_t kSpan = 16, kMaxSpans = 4;
 
 inline void fillSpan(int16_t* at, int16_t value) {
@@ -40,6 +41,21 @@ inline void fillSpan(int16_t* at, int16_t value) {
     std::fill_n(pattern, 8, value);
     std::memcpy(at, pattern, sizeof pattern);
     std::memcpy(at + 8, pattern, sizeof pattern);
+}
+
+// Single pixels, each byte its own cell: the first span always, the rest as needed.
+inline void widenPixels(const uint8_t* from, int16_t* to, int64_t count) {
+    int64_t k = 0;
+    do {
+#if defined(__SSE2__)
+        const __m128i x = _mm_loadu_si128(reinterpret_cast<const __m128i*>(from + k));
+        _mm_storeu_si128(reinterpret_cast<__m128i*>(to + k), _mm_unpacklo_epi8(x, _mm_setzero_si128()));
+        _mm_storeu_si128(reinterpret_cast<__m128i*>(to + k + 8), _mm_unpackhi_epi8(x, _mm_setzero_si128()));
+#else
+        for (int64_t j = 0; j < kSpan; ++j) to[k + j] = from[k + j];
+#endif
+        k += kSpan;
+    } while (k < count);
 }
 
 // Where decoding stands: the file cell read next, the grid cell written next, and the
@@ -82,74 +98,64 @@ inline uint64_t valueBits(uint64_t markers, uint64_t& carry) {
     return values;
 }
 
-// Each first byte's run: its length, and whether a value byte follows (1) or not (0).
-// Looked up rather than worked out, as fewer instructions a run is what counts here.
-struct RunTable {
-    std::array<uint8_t, 256> length{}, valueAfter{};
-    constexpr RunTable() {
-        for (int b = 0; b < 256; ++b) {
-            valueAfter[static_cast<std::size_t>(b)] = b > 191;
-            length[static_cast<std::size_t>(b)] = static_cast<uint8_t>(b > 191 ? b - 192 : 1);
-        }
-    }
-};
-constexpr RunTable kRuns;
-
-// The runs of the file 64 bytes at a time while a whole block and the byte after it are
-// data and every value's colour can be packed: the run boundaries come from the block's
-// bits, so no run waits on the one before it to know where it starts. Stops early where
-// a run might need checking (too near the grid's end) or the decoding is done. Made
-// apart for the usual palette, where every value has its record, as the test for one
-// costs as much as the rest of a run.
-template <bool everyValueRecorded>
-void decodeBlocks(const RunCells& file, const RunGrid& grid, const ValueColors& values, int64_t stop,
-                  Cursor& c, RunsDecoded& out) {
+// The runs of the file 64 bytes at a time, while a whole block and the bytes its spans
+// may read past it are data, for the usual palette: every value has its record and a
+// colour that can be packed, so each cell takes its own byte. The run counts of a block
+// come from its bits, so no run waits on the one before it to know where it starts, and
+// the single pixels between two runs are written as one stretch. Stops early where a run
+// might need checking (too near the grid's end) or the decoding is done. The index is
+// left as it was: what comes after sets it before it is used.
+void decodeBlocks(const RunCells& file, const RunGrid& grid, int64_t stop, Cursor& c) {
     // Kept in locals: the grid's cells could alias anything held by reference.
     int16_t* const cells = grid.cells;
-    const int64_t last = grid.count - kSpan * kMaxSpans; // the last cell a run may start at
-    const bool* const hasRecord = values.hasRecord.data();
-    int64_t at = c.at, dirty = c.dirty, p = -1, blackCells = out.blackCells;
-    int16_t index = c.index;
-    bool recorded = c.recorded;
+    const int64_t last = grid.count - 2 * kSpan * kMaxSpans; // room for a stretch and a run
+    int64_t at = c.at, dirty = c.dirty, p = -1;
     uint64_t carry = 0;
     int64_t start = 0;
-    for (; p < 0 && start + 64 < file.count; start += 64) {
+    for (; p < 0 && start + 64 + 2 * kSpan <= file.count; start += 64) {
         const uint8_t* block = file.data + start;
-        for (uint64_t runs = ~valueBits(markerBits(block), carry); runs != 0; runs &= runs - 1) {
-            const int i = std::countr_zero(runs);
+        const uint64_t markers = markerBits(block);
+        int64_t q = static_cast<int64_t>(carry); // the first byte after the last run
+        uint64_t counts = ~valueBits(markers, carry) & markers;
+        // Each run with the single pixels before it, then the pixels after the last run.
+        for (;;) {
+            const bool tail = counts == 0;
+            const int64_t i = tail ? 64 : std::countr_zero(counts);
+            const int64_t pixels = std::max<int64_t>(i - q, 0);
             if (at > last) {
-                p = start + i;
+                p = start + q;
                 break;
             }
-            const uint8_t b = block[i];
-            const int64_t isRun = kRuns.valueAfter[b], n = kRuns.length[b];
-            const uint8_t v = block[i + isRun];
-            const bool has = everyValueRecorded || hasRecord[v];
-            if (has && !recorded) {
-                blackCells = at;
-                recorded = true;
+            widenPixels(block + q, cells + at, pixels);
+            dirty = at + kSpan * kMaxSpans;
+            if (at + pixels >= stop) { // a pixel ends it
+                p = start + q + (stop - at);
+                at = stop;
+                break;
             }
-            index = has ? v : index;
-            fillSpan(cells + at, index);
-            fillSpan(cells + at + kSpan, index);
+            at += pixels;
+            if (tail) break;
+            const int64_t n = block[i] - 192;
+            const int16_t value = block[i + 1];
+            fillSpan(cells + at, value);
+            fillSpan(cells + at + kSpan, value);
             if (n > 2 * kSpan) {
-                fillSpan(cells + at + 2 * kSpan, index);
-                fillSpan(cells + at + 3 * kSpan, index);
+                fillSpan(cells + at + 2 * kSpan, value);
+                fillSpan(cells + at + 3 * kSpan, value);
             }
             dirty = at + kSpan * kMaxSpans;
             at += n;
+            q = i + 2;
             if (at >= stop) {
-                p = start + i + 1 + isRun;
+                p = start + q;
                 break;
             }
+            counts &= counts - 1;
         }
     }
     c.p = p >= 0 ? p : start + static_cast<int64_t>(carry);
     c.at = at;
     c.dirty = dirty;
-    c.index = index;
-    c.recorded = recorded;
-    out.blackCells = blackCells;
 }
 
 } // namespace
@@ -168,9 +174,12 @@ RunsDecoded decodeRuns(const RunCells& file, const RunGrid& grid, const ValueCol
         auto all = [](const std::array<bool, 256>& a, bool want) {
             return std::all_of(a.begin(), a.end(), [want](bool x) { return x == want; });
         };
-        if (all(values.unpackable, false)) {
-            if (all(values.hasRecord, true)) decodeBlocks<true>(file, grid, values, stop, c, out);
-            else decodeBlocks<false>(file, grid, values, stop, c, out);
+        if (all(values.hasRecord, true) && all(values.unpackable, false)) {
+            decodeBlocks(file, grid, stop, c);
+            if (c.p > 0) { // the first run recorded its value, in the first cell
+                c.recorded = true;
+                out.blackCells = 0;
+            }
         }
         // The rest one run at a time, every cell and byte checked. A value with a record
         // sets the index; any other repeats the one before.
