@@ -1,8 +1,5 @@
-// Get_Pal: a raw palette of any length into Pal_Table and the grid of Picture2, and
-// RGB_Color's split of the current colour.
+// Get_Pal: a raw palette of any length into Pal_Table and the grid of Picture2.
 #include "support/test_support.h"
-
-#include <filesystem>
 
 namespace tavrin::test {
 namespace {
@@ -82,28 +79,8 @@ TEST_F(GetPal, BytesBehindTheLastWholeColourGoIntoTheNextRecordsAndShortFilesKee
     EXPECT_EQ(frm.Picture2.Point(121 + 5, 5), packed(kept.Red, kept.Green, kept.Blue));
 }
 
-TEST_F(GetPal, AFileOfWholeColoursGetsOneCopyOfItsLastColourMore) {
-    loadPalette(gamePalette());
-    Bytes b = patterned(30);
-    loadPalette(b);
-    for (int n = 0; n < 10; ++n) expectFromFile(frm, b, n);
-    expectRecord(frm, 10, b[27], b[28], b[29], 110, 0);
-    EXPECT_EQ(frm.Picture2.Point(115, 5), packed(b[27], b[28], b[29]));
-    Bytes game = gamePalette();
-    expectFromFile(frm, game, 11);
-    EXPECT_EQ(frm.Picture2.Point(126, 5), packed(game[33], game[34], game[35]));
-}
-
-TEST_F(GetPal, NoMoreThan258ColoursAreKept) {
-    frm.Pal_Table(258).Red = 99;
-    Bytes b = patterned(800);
-    loadPalette(b);
-    EXPECT_TRUE(host.messages().empty());
-    for (int n = 0; n < 258; ++n) expectFromFile(frm, b, n);
-    expectRecord(frm, 258, 99, 0, 0, 0, 0, 0);
-}
-
 TEST_F(GetPal, AnswerYesReadsTheLast768BytesOnceAndEmptiesTheAnswer) {
+    frm.Pal_Table(258).Red = 99;
     Bytes file = patterned(1000);
     std::string path = dir.write("skin.pcx", file);
     frm.Pal_Path = path;
@@ -119,6 +96,7 @@ TEST_F(GetPal, AnswerYesReadsTheLast768BytesOnceAndEmptiesTheAnswer) {
 
     frm.Get_Pal(); // the emptied answer: from the first byte this time
     for (int n = 0; n < 258; ++n) expectFromFile(frm, file, n);
+    expectRecord(frm, 258, 99, 0, 0, 0, 0, 0); // no more than 258 colours are kept
 }
 
 TEST_F(GetPal, AMissingOrTooShortFileShowsOneMessageAndChangesNothing) {
@@ -145,28 +123,6 @@ TEST_F(GetPal, AMissingOrTooShortFileShowsOneMessageAndChangesNothing) {
     EXPECT_EQ(host.messages()[1].text, message);
     EXPECT_EQ(table(frm), before);
     EXPECT_EQ(frm.Picture2.Image()->px, picture->px);
-}
-
-TEST_F(GetPal, RealSkinTailsAndColourTables) {
-    const std::filesystem::path real = TAVRIN_REALDATA;
-    const auto skin = real / "md2/SnowfallEagle-Volition3D/Bin/Assets/Models/0069/actionbond_i.pcx";
-    const auto act = real / "palettes/paulwratt-programmers-palettes/docs/Arne16v20/16pal_v20.act";
-    if (!std::filesystem::exists(skin) || !std::filesystem::exists(act))
-        GTEST_SKIP() << "no real files beside the project";
-
-    // This skin carries the game's palette behind its marker byte.
-    frm.Pal_Path = skin.string();
-    frm.Pal_Answer = 6;
-    frm.Get_Pal();
-    Bytes game = gamePalette();
-    for (int n = 0; n < 256; ++n) expectFromFile(frm, game, n);
-
-    Bytes table = readFile(act.string());
-    frm.Pal_Path = act.string();
-    frm.Get_Pal();
-    EXPECT_TRUE(host.messages().empty());
-    for (int n = 0; n < 257; ++n) expectFromFile(frm, table, n);
-    expectRecord(frm, 257, table[771], table[769], table[770], 11, 176);
 }
 
 } // namespace
