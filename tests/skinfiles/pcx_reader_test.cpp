@@ -31,6 +31,7 @@ struct PcxReader : EditorTest {
             ASSERT_EQ(frm.Skin_Grid(static_cast<int64_t>(i)), e.grid[i]) << path << " cell " << i;
         if (!e.completed) {
             EXPECT_EQ(frm.picture1.Picture.get(), nullptr) << path;
+            EXPECT_TRUE(frm.Picture7.Visible) << path; // the canvas shows all the same
             return;
         }
         ASSERT_EQ(frm.picture1.innerWidth(), e.width - 2) << path;
@@ -75,29 +76,12 @@ TEST_F(PcxReader, SmallSkinLoadsWithFillerRowsAndShowsOnTheCanvas) {
     EXPECT_TRUE(frm.SSPanel11.Visible);
 }
 
-TEST_F(PcxReader, RunBytesAndTheUnreadTail) {
-    Bytes file = pcxHeader(4, 1, 4);
-    for (uint8_t b : {0xC3, 0x05, 0x07, 0xC0, 0x09, 0x08}) file.push_back(b);
-    file.push_back(0x0C);
-    Bytes pal = gamePalette();
-    file.insert(file.end(), pal.begin(), pal.end());
-    openSkin(host, frm, dir.write("runs.pcx", file));
-    EXPECT_EQ(frm.Skin_Grid(0), 5);
-    EXPECT_EQ(frm.Skin_Grid(2), 5);
-    EXPECT_EQ(frm.Skin_Grid(3), 7);
-    EXPECT_EQ(frm.Skin_Grid(4), 8); // 0xC0 0x09 made no pixel
-    // The marker byte and everything behind it but the palette is data; the unread
-    // tail reads as zeros.
-    EXPECT_EQ(frm.Skin_Grid(5), 0);
-}
-
 TEST_F(PcxReader, PaletteFromTheSkinWhenTheUserSaysYes) {
     Bytes pal = makeBytes(768, [](std::size_t k) { return static_cast<uint8_t>(k % 251); });
     const std::string path = dir.write("own.pcx", encodePcx(4, 2, {1, 2, 3, 4, 5, 6, 7, 8}, pal));
     openSkin(host, frm, path, true);
     EXPECT_EQ(frm.Pal_Table(1).Red, 3);
     EXPECT_EQ(frm.Pal_Table(255).Blue, static_cast<int>(767 % 251));
-    EXPECT_EQ(frm.Pal_Answer, "");
     EXPECT_EQ(frm.Pal_Path, path);
     EXPECT_EQ(frm.picture1.Point(0, 0), packed(3, 4, 5));
 }
@@ -127,31 +111,18 @@ TEST_F(PcxReader, CancelAndHostileHeaders) {
     EXPECT_EQ(host.messages().back().text, "Path/File not found, or not a valid file.");
 }
 
-TEST_F(PcxReader, WideSkinFillsTheGridButLeavesThePictureEmpty) {
-    // Past 442 columns the filler rows need more cells than lie behind the data.
-    std::vector<uint8_t> px(512 * 4, 9);
-    openSkin(host, frm, dir.write("wide.pcx", encodePcx(512, 4, px, gamePalette())));
-    EXPECT_EQ(frm.Skin_Grid(512 * 4 - 1), 9);
-    EXPECT_EQ(frm.picture1.Picture.get(), nullptr);
-    EXPECT_TRUE(frm.Picture7.Visible);
-    // A padded odd row shifts every next row by one more pixel.
-    std::vector<uint8_t> odd(5 * 3);
-    for (std::size_t i = 0; i < odd.size(); ++i) odd[i] = static_cast<uint8_t>(i + 1);
-    const std::string path = dir.write("odd.pcx", encodePcx(5, 3, odd, gamePalette(), 6, true, 0xEE));
-    expectLoadedAsRules(path);
-    EXPECT_EQ(frm.Skin_Grid(5), 0xEE);
-}
-
 TEST_F(PcxReader, RandomBytesDecodeAsTheRulesSay) {
     // Runs, literals and 192s in any order, data that ends early or late, and widths on
     // both sides of the ones whose filler rows run out: every cell of the grid, the
     // picture where it is made, and the zeros behind the last cell written; every third
-    // file with some values that have no record of their own.
+    // file with some values that have no record of their own. Half the headers claim a
+    // padding byte a line, which the reader must not skip: it reads one stream of runs.
     std::mt19937 rng(11);
     for (int round = 0; round < 150; ++round) {
         const int w = 2 + static_cast<int>(rng() % 90), h = 1 + static_cast<int>(rng() % 30);
-        Bytes file = pcxHeader(w, h, w);
-        const std::size_t dataBytes = rng() % static_cast<std::size_t>(2 * w * h + 8);
+        Bytes file = pcxHeader(w, h, w + round % 2);
+        // Every fifth file has next to no data: the zeros behind it run out first if wide.
+        const std::size_t dataBytes = rng() % static_cast<std::size_t>(round % 5 == 4 ? 40 : 2 * w * h + 8);
         for (std::size_t i = 0; i < dataBytes; ++i)
             file.push_back(static_cast<uint8_t>(rng() % 3 == 0 ? 192 + rng() % 64 : rng() % 256));
         file.push_back(0x0C);
