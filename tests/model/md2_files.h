@@ -12,9 +12,10 @@ struct Md2 {
     std::vector<std::array<int16_t, 3>> tris{}; // texture coordinate indices
     int32_t numSt = -1, numTris = -1;           // -1: as many as st and tris hold
 
-    // Header, then the coordinates, then the triangles.
+    // Header, a skin name of zeros, then the coordinates, then the triangles: no table
+    // starts where the header ends, so a reader must follow the offsets.
     Bytes bytes() const {
-        const std::size_t stAt = 68, trisAt = stAt + 4 * st.size();
+        const std::size_t stAt = 68 + 64, trisAt = stAt + 4 * st.size();
         Bytes out(trisAt + 12 * tris.size());
         auto put = [&](std::size_t at, int32_t v, int width) {
             for (int k = 0; k < width; ++k) out[at + k] = static_cast<uint8_t>(v >> (8 * k));
