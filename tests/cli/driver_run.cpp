@@ -8,9 +8,7 @@
 
 namespace tavrin::test {
 
-namespace {
-
-DriverRun run(const std::string& script, const std::string& options, bool onStdin) {
+DriverRun runDriver(const std::string& script, const std::string& options, bool onStdin) {
     TempDir dir;
     std::string scriptPath = dir.write("script.txt", Bytes(script.begin(), script.end()));
     std::string errPath = dir.file("stderr.txt");
@@ -29,8 +27,6 @@ DriverRun run(const std::string& script, const std::string& options, bool onStdi
     return r;
 }
 
-} // namespace
-
 std::string shellQuote(const std::string& s) {
     std::string out = "'";
     for (char c : s) out += c == '\'' ? std::string("'\\''") : std::string(1, c);
@@ -41,14 +37,6 @@ std::string scriptQuote(const std::string& s) {
     std::string out = "\"";
     for (char c : s) out += (c == '"' || c == '\\') ? std::string("\\") + c : std::string(1, c);
     return out + "\"";
-}
-
-DriverRun runDriver(const std::string& script, const std::string& options) {
-    return run(script, options, false);
-}
-
-DriverRun runDriverOnStdin(const std::string& script, const std::string& options) {
-    return run(script, options, true);
 }
 
 } // namespace tavrin::test

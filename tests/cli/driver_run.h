@@ -10,10 +10,9 @@ struct DriverRun {
     int status = -1;
 };
 
-// options go before the script's path on the command line, shell-quoted by the caller.
-DriverRun runDriver(const std::string& script, const std::string& options = "");
-// The same with the script on standard input.
-DriverRun runDriverOnStdin(const std::string& script, const std::string& options = "");
+// options go before the script's path on the command line, shell-quoted by the caller;
+// onStdin gives the script on standard input instead of by its path.
+DriverRun runDriver(const std::string& script, const std::string& options = "", bool onStdin = false);
 
 // A word for sh, in single quotes.
 std::string shellQuote(const std::string& s);
