@@ -12,7 +12,8 @@ struct DriverRun {
 
 // options go before the script's path on the command line, shell-quoted by the caller;
 // onStdin gives the script on standard input instead of by its path.
-DriverRun runDriver(const std::string& script, const std::string& options = "", bool onStdin = false);
+DriverRun runDriver(const std::string& script, const std::string& options = "",
+                    bool onStdin = false);
 
 // A word for sh, in single quotes.
 std::string shellQuote(const std::string& s);

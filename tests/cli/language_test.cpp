@@ -31,11 +31,12 @@ TEST(ScriptLanguage, TokensCommentsAndValuesAsTheyAreWritten) {
          "Tool_Mode=\"5\"\nTool_Mode=True\nTool_Mode=Empty\nTool_Mode=0.30000000000000004\n"
          "Tool_Mode=70000\n"},
         // 32-bit, boolean, byte, and elements of arrays.
-        {"set Near_Color 2147483647\nprint Near_Color\nprint Fill_Rect\nset Fill_Rect True\nprint Fill_Rect\n"
+        {"set Near_Color 2147483647\nprint Near_Color\n"
+         "print Fill_Rect\nset Fill_Rect True\nprint Fill_Rect\n"
          "set Work_Buf 1 2 3 -9\nprint Work_Buf 1 2 3\nprint Work_Buf 1 2 4\n"
          "set PCX_Header 128 255\nprint PCX_Header 128\n",
-         "Near_Color=2147483647\nFill_Rect=False\nFill_Rect=True\nWork_Buf(1,2,3)=-9\nWork_Buf(1,2,4)=0\n"
-         "PCX_Header(128)=255\n"},
+         "Near_Color=2147483647\nFill_Rect=False\nFill_Rect=True\n"
+         "Work_Buf(1,2,3)=-9\nWork_Buf(1,2,4)=0\nPCX_Header(128)=255\n"},
     };
     for (const Case& c : cases) {
         DriverRun r = runDriver(c.script);
@@ -46,23 +47,17 @@ TEST(ScriptLanguage, TokensCommentsAndValuesAsTheyAreWritten) {
 
 TEST(ScriptLanguage, BadLinesAndUnknownNamesStopWithStatus2AndTheirLineNumber) {
     const char* bad[] = {
-        "print \"Skin_Rows",          // quote not closed
-        "set File_Name \"a\\nb\"",    // unknown escape
-        "set File_Name ab\"c\"",      // quote inside a token
-        "set File_Name \"ab\"c",      // no blank after the closing quote
-        "set Skin_Rows 32768",        // out of a field's range, at either end and in hex
-        "set Brush_Size -32769", "set PCX_Header 1 256", "set Near_Color 2147483648",
-        "set Cur_Color 0x100000000",
-        "set Skin_Rows 1.5",          // a fraction in a whole-number field
-        "set Scale_X Zoom",           // a bare word is no value
-        "set Tool_Mode 1e3",
-        "set Fill_Rect true",         // booleans are True and False
-        "frobnicate",                 // no such command
-        "print",                      // missing argument
-        "print Skin_Rows 3",          // an index on a single value
-        "print Skin_Grid",            // an array without its index
-        "answer msgbox maybe",
-        "mouse hover 1 0 3 4", "palette move 1 0 3 4", "mouse down 1 0 3",
+        // quotes: not closed, an unknown escape, one inside a token, no blank after one
+        "print \"Skin_Rows", "set File_Name \"a\\nb\"", "set File_Name ab\"c\"",
+        "set File_Name \"ab\"c",
+        // values out of a field's range, at either end and in hex
+        "set Skin_Rows 32768", "set Brush_Size -32769", "set PCX_Header 1 256",
+        "set Near_Color 2147483648", "set Cur_Color 0x100000000", "key Text5 256",
+        // a fraction in a whole-number field, words and forms that are no value
+        "set Skin_Rows 1.5", "set Scale_X Zoom", "set Tool_Mode 1e3", "set Fill_Rect true",
+        // no such command, a missing argument, an index on a single value or none on an array
+        "frobnicate", "print", "print Skin_Rows 3", "print Skin_Grid",
+        "answer msgbox maybe", "mouse hover 1 0 3 4", "palette move 1 0 3 4", "mouse down 1 0 3",
         // names that are no field, procedure, control or property of that kind
         "print No_Such_Field", "bounds Skin_Rows", "set Pal_Table 5 1", "call No_Such_Proc",
         "call paletteChanged", "click NoSuchControl", "click tbToolBar.NoSuchKey",
