@@ -1,7 +1,8 @@
 // The main window as Qt builds it from the editor's controls: menus from the command
-// table, panels at their places, widgets that follow the state.
+// table, panels at their places, widgets that follow the state, the canvas's popup.
 #include "editor/frm_main.h"
 #include "platform/qt/form_window.h"
+#include "platform/qt/qt_host.h"
 #include "platform/scripted_host.h"
 #include "shell/frm_splash.h"
 
@@ -12,6 +13,8 @@
 #include <QMenu>
 #include <QMenuBar>
 #include <QStatusBar>
+#include <QTest>
+#include <QTimer>
 #include <gtest/gtest.h>
 
 #include <filesystem>
@@ -47,10 +50,9 @@ TEST_F(MainWindow, MenuBarHoldsTheVisibleMenusWithShortcuts) {
     EXPECT_EQ(titles, (QStringList{"&File", "&Edit", "&View", "&Tools", "&Filters", "&Brushes",
                                    "&Options", "&Help"}));
     QAction* undo = findAction(window.get(), "&Undo");
-    ASSERT_NE(undo, nullptr);
-    EXPECT_EQ(undo->shortcut(), QKeySequence("Ctrl+Z"));
     QAction* line = findAction(window.get(), "&Line");
-    ASSERT_NE(line, nullptr);
+    ASSERT_TRUE(undo && line);
+    EXPECT_EQ(undo->shortcut(), QKeySequence("Ctrl+Z"));
     EXPECT_FALSE(line->isVisible());
     EXPECT_TRUE(findAction(window.get(), "&Palette")->isChecked());
     EXPECT_EQ(window->windowTitle(), "Tavrin - 256 Color Pixel Editor - Version Beta - Build 033");
@@ -88,10 +90,41 @@ TEST_F(MainWindow, StatusColourBoxesAndPaletteFollowTheState) {
     EXPECT_EQ(window->findChild<QWidget*>("Text1")->property("text").toString(), "17");
 }
 
+// A real right press on the canvas reaches the editor's handler, which opens Pop.
+TEST_F(MainWindow, RightPressOnTheCanvasOpensPop) {
+    std::vector<std::string> opened;
+    host.onPopup = [&](platform::MenuItem& menu) { opened.push_back(menu.name()); };
+    frm.Picture7.Move(0, 0, 3000, 3000);
+    frm.Picture7.Visible = true;
+    QWidget* canvas = window->widgetFor(&frm.Picture7);
+    ASSERT_NE(canvas, nullptr);
+    QTest::mousePress(canvas, Qt::RightButton, Qt::NoModifier, QPoint(50, 50));
+    QTest::mouseRelease(canvas, Qt::RightButton, Qt::NoModifier, QPoint(50, 50));
+    EXPECT_EQ(opened, std::vector<std::string>{"Pop"});
+}
+
+TEST(QtPopup, TheMenuHoldsPopsItems) {
+    platform::qt::QtHost host;
+    tavrin::FrmMain frm(host);
+    host.ShowForm(frm);
+    QStringList shown;
+    QTimer::singleShot(0, [&] {
+        if (auto* menu = qobject_cast<QMenu*>(QApplication::activePopupWidget())) {
+            for (QAction* a : menu->actions())
+                if (!a->isSeparator()) shown << a->text();
+            menu->close();
+        }
+    });
+    host.PopupMenu(frm.Pop);
+    EXPECT_EQ(shown, (QStringList{"Zoom", "Eye-Dropper", "Air-Brush", "Blur-Brush", "Tint-Brush",
+                                  "Paintbrush", "Pencil", "Brush Size", "Diffuse", "Blur", "Emboss",
+                                  "Tint", "Lighten", "Sharpen", "Wireframe"}));
+    host.closeAll();
+}
+
 TEST(SplashWindow, ShowsVersionAndEveryNote) {
     platform::ScriptedHost host;
-    bool mainShown = false;
-    tavrin::FrmSplash splash(host, [&] { mainShown = true; });
+    tavrin::FrmSplash splash(host, [] {});
     splash.Form_Load();
     FormWindow window(splash);
     auto* list = window.findChild<QListWidget*>("List1");

@@ -1,5 +1,5 @@
-// The canvas widget shows exactly what the box answers with Point, and after a change
-// repaints only the part that changed.
+// The canvas widget shows exactly what the box answers with Point, after a change
+// repaints only the part that changed, and hands real mouse events to the box's handlers.
 #include "platform/form.h"
 #include "platform/picture_box.h"
 #include "platform/qt/picture_widget.h"
@@ -7,9 +7,12 @@
 #include <QApplication>
 #include <QEvent>
 #include <QPaintEvent>
+#include <QTest>
 #include <gtest/gtest.h>
 
 #include <memory>
+#include <sstream>
+#include <string>
 #include <vector>
 
 namespace {
@@ -76,6 +79,40 @@ TEST(PictureWidget, AStrokeRepaintsOnlyTheBlockOfThePixelItChanged) {
     QApplication::processEvents();
     ASSERT_EQ(painted.rects.size(), 1u);
     EXPECT_EQ(painted.rects[0], QRect(80, 160, 8, 8));
+}
+
+// With the form's arguments: the button that changed (or, in a move, the buttons held),
+// the shift state, and the position in the box's scale.
+TEST(PictureWidget, MouseEventsReachTheHandlersWithTheFormsArguments) {
+    platform::Form form("frmTest");
+    PictureBox box(&form, "Picture7", {platform::ScaleUnit::Pixels, 4, true, 0});
+    box.Width = 200 * 15;
+    box.Height = 100 * 15;
+    std::vector<std::string> seen; // "kind button shift x y"
+    auto record = [&seen](char kind) {
+        return [&seen, kind](int16_t b, int16_t s, float x, float y) {
+            std::ostringstream line;
+            line << kind << ' ' << b << ' ' << s << ' ' << x << ' ' << y;
+            seen.push_back(line.str());
+        };
+    };
+    box.MouseDown = record('d');
+    box.MouseMove = record('m');
+    box.MouseUp = record('u');
+    platform::qt::PictureWidget widget(box, nullptr);
+    widget.resize(200, 100);
+    widget.show();
+
+    // The border takes two pixels each side: widget (12, 7) is the box's (10, 5).
+    QTest::mousePress(&widget, Qt::LeftButton, Qt::ShiftModifier, QPoint(12, 7));
+    QTest::mouseMove(&widget, QPoint(250, 50)); // beyond the right edge
+    QTest::mouseRelease(&widget, Qt::LeftButton, Qt::ControlModifier | Qt::AltModifier, QPoint(250, 50));
+    QTest::mousePress(&widget, Qt::RightButton, Qt::NoModifier, QPoint(2, 2));
+
+    ASSERT_GE(seen.size(), 3u);
+    EXPECT_EQ(seen.front(), "d 1 1 10 5");
+    EXPECT_EQ(seen[seen.size() - 2], "u 1 6 248 48");
+    EXPECT_EQ(seen.back(), "d 2 0 0 0");
 }
 
 } // namespace
