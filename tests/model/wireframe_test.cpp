@@ -29,7 +29,7 @@ struct Wireframe : ModelTest {
     }
 };
 
-TEST_F(Wireframe, LinesFollowTheZoomAndARepaintWipesThem) {
+TEST_F(Wireframe, LinesFollowTheZoomAndRepaintsWipeThem) {
     importModel();
     for (double z : {1.0, 0.5, 2.0}) {
         SCOPED_TRACE(z);
@@ -43,6 +43,12 @@ TEST_F(Wireframe, LinesFollowTheZoomAndARepaintWipesThem) {
     }
     EXPECT_EQ(frm.picture1.Point(20, 4), 0); // never in the picture or the grid
     EXPECT_EQ(frm.Skin_Grid(4 * 64 + 20), 0);
+    // The attribute messages repaint the canvas afterwards.
+    frm.ma_Click();
+    EXPECT_EQ(lastMessage(), "Model Attributes: \r" + model + "\r\rNumber of Triangles: 1");
+    EXPECT_TRUE(edgeGone());
+    frm.ia_Click();
+    EXPECT_EQ(lastMessage(), "Image Attributes: \r\r\rSkin Width: 64\rSkin Height: 48");
 }
 
 TEST_F(Wireframe, WireFrameWalksItsFourStates) {
@@ -92,15 +98,6 @@ TEST_F(Wireframe, FailedImportResetsOnTheNextClickAndAsksOnTheOneAfter) {
     EXPECT_EQ(frm.Wire_Loaded, 0);
     importModel();
     EXPECT_TRUE(edgeShown(1));
-}
-
-TEST_F(Wireframe, AttributeMessages) {
-    importModel();
-    frm.ma_Click();
-    EXPECT_EQ(lastMessage(), "Model Attributes: \r" + model + "\r\rNumber of Triangles: 1");
-    EXPECT_TRUE(edgeGone()); // repainted afterwards
-    frm.ia_Click();
-    EXPECT_EQ(lastMessage(), "Image Attributes: \r\r\rSkin Width: 64\rSkin Height: 48");
 }
 
 } // namespace

@@ -11,12 +11,14 @@ Bytes patterned(std::size_t count) {
 
 using GetPal = EditorTest;
 
+std::vector<int> fieldsOf(const PalRecord& r) { return {r.Red, r.Green, r.Blue, r.Index, r.Cell_X, r.Cell_Y}; }
+
 // Every record as numbers, to see that a failed read changed nothing.
 std::vector<int> table(const FrmMain& frm) {
     std::vector<int> out;
     for (int n = 0; n <= 900; ++n) {
-        const PalRecord& r = frm.Pal_Table(n);
-        out.insert(out.end(), {r.Red, r.Green, r.Blue, r.Index, r.Cell_X, r.Cell_Y});
+        const std::vector<int> fields = fieldsOf(frm.Pal_Table(n));
+        out.insert(out.end(), fields.begin(), fields.end());
     }
     return out;
 }
@@ -24,14 +26,8 @@ std::vector<int> table(const FrmMain& frm) {
 // index -1: the record's own number.
 void expectRecord(const FrmMain& frm, int n, int red, int green, int blue, int cellX, int cellY,
                   int index = -1) {
-    SCOPED_TRACE("record " + std::to_string(n));
-    const PalRecord& r = frm.Pal_Table(n);
-    EXPECT_EQ(r.Red, red);
-    EXPECT_EQ(r.Green, green);
-    EXPECT_EQ(r.Blue, blue);
-    EXPECT_EQ(r.Index, index < 0 ? n : index);
-    EXPECT_EQ(r.Cell_X, cellX);
-    EXPECT_EQ(r.Cell_Y, cellY);
+    EXPECT_EQ(fieldsOf(frm.Pal_Table(n)), (std::vector<int>{red, green, blue, index < 0 ? n : index, cellX, cellY}))
+        << "record " << n << ": red, green, blue, index, cell x and y";
 }
 
 // Record n read from bytes 3n to 3n + 2 of the file.
