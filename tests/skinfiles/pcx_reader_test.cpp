@@ -1,11 +1,14 @@
-// Opening PCX skins: the decoder's rules, the command around it, random files and files
-// from other encoders, each checked against the rules worked out byte by byte.
+// Opening PCX skins: the decoder's rules, the command around it, random files, files from
+// other encoders and real skins, each checked against the rules worked out byte by byte.
 #include "skinfiles/pcx_test_support.h"
 
+#include <filesystem>
 #include <random>
 
 namespace tavrin::test {
 namespace {
+
+namespace fs = std::filesystem;
 
 struct PcxReader : EditorTest {
     void SetUp() override {
@@ -107,9 +110,12 @@ TEST_F(PcxReader, RandomBytesDecodeAsTheRulesSay) {
     // picture where it is made, and the zeros behind the last cell written; every third
     // file with some values that have no record of their own. Half the headers claim a
     // padding byte a line, which the reader must not skip: it reads one stream of runs.
+    // Every seventh is wider than the grid's spare cells, so the grid ends before the rows.
     std::mt19937 rng(11);
     for (int round = 0; round < 150; ++round) {
-        const int w = 2 + static_cast<int>(rng() % 90), h = 1 + static_cast<int>(rng() % 30);
+        const bool wide = round % 7 == 3;
+        const int w = wide ? 860 + static_cast<int>(rng() % 240) : 2 + static_cast<int>(rng() % 90);
+        const int h = 1 + static_cast<int>(rng() % (wide ? 3 : 30));
         Bytes file = pcxHeader(w, h, w + round % 2);
         // Every fifth file has next to no data: the zeros behind it run out first if wide.
         const std::size_t dataBytes = rng() % static_cast<std::size_t>(round % 5 == 4 ? 40 : 2 * w * h + 8);
@@ -129,6 +135,20 @@ TEST_F(PcxReader, RandomBytesDecodeAsTheRulesSay) {
     }
 }
 
+TEST_F(PcxReader, StretchesAndRunsUpToTheGridsEnd) {
+    // Wider than the grid's spare cells, so the grid ends before the rows do: 62 single
+    // pixels and a run of 63 over and over, until one of each no longer fits.
+    Bytes file = pcxHeader(1024, 1, 1024);
+    for (int group = 0; group < 60; ++group) {
+        for (int i = 0; i < 62; ++i) file.push_back(static_cast<uint8_t>((group + i) % 192));
+        file.insert(file.end(), {255, static_cast<uint8_t>(group)});
+    }
+    file.push_back(0x0C);
+    const Bytes palette = gamePalette();
+    file.insert(file.end(), palette.begin(), palette.end());
+    expectLoadedAsRules(dir.write("end.pcx", file));
+}
+
 TEST_F(PcxReader, AValueWithoutARecordRepeatsThePixelBefore) {
     frm.Pal_Table(3).Index = 40; // no record of its own for 3 and 5
     frm.Pal_Table(5).Index = 41;
@@ -146,6 +166,22 @@ TEST_F(PcxReader, FilesFromOtherEncoders) {
         expectLoadedAsRules(std::string(TAVRIN_TEST_DATA) + "/" + name);
     // Xmin is not subtracted: 5 + 6 columns wide.
     EXPECT_EQ(expectedLoad(readFile(std::string(TAVRIN_TEST_DATA) + "/xmin5-ymin3.pcx")).width, 11);
+}
+
+TEST_F(PcxReader, RealSkins) {
+    const fs::path root = fs::path(TAVRIN_REALDATA);
+    if (!fs::exists(root)) GTEST_SKIP() << "no real files at " << root;
+    int loaded = 0;
+    for (const auto& entry : fs::recursive_directory_iterator(root)) {
+        std::string ext = entry.path().extension().string();
+        for (char& c : ext) c = static_cast<char>(std::tolower(static_cast<unsigned char>(c)));
+        if (ext != ".pcx") continue;
+        const Bytes file = readFile(entry.path().string());
+        if (file.size() < 128 || file[3] != 8 || file[65] != 1) continue; // 8-bit, one plane
+        expectLoadedAsRules(entry.path().string());
+        ++loaded;
+    }
+    EXPECT_GT(loaded, 0);
 }
 
 } // namespace
