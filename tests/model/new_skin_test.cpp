@@ -1,8 +1,9 @@
 // New skin from a model: the reader's rules, the header's size bytes, the grid of 0 and
-// 15, and the error path.
+// 15, the error path, and the real models.
 #include "model/md2_files.h"
 
 #include <algorithm>
+#include <filesystem>
 
 namespace tavrin::test {
 namespace {
@@ -88,6 +89,44 @@ TEST_F(NewSkin, SizeBytesFollowTheTwoWidthRules) {
     EXPECT_EQ(lastMessage(), kLoadProblem);
     EXPECT_FALSE(frm.Picture7.Visible);
     EXPECT_EQ(frm.picture1.Point(5, 1), 0);
+}
+
+TEST_F(NewSkin, RealModels) {
+    namespace fs = std::filesystem;
+    const fs::path root = fs::path(TAVRIN_REALDATA) / "md2";
+    if (!fs::exists(root)) GTEST_SKIP() << "no real models at " << root;
+    int made = 0, tooWide = 0, mostTriangles = 0;
+    for (const auto& entry : fs::recursive_directory_iterator(root)) {
+        std::string ext = entry.path().extension().string();
+        if (ext != ".md2" && ext != ".MD2") continue;
+        SCOPED_TRACE(entry.path().string());
+        const Bytes f = readFile(entry.path().string());
+        auto i16 = [&](std::size_t at) { return int16_t(f[at] | f[at + 1] << 8); };
+        auto i32 = [&](std::size_t at) { return int32_t(uint16_t(i16(at)) | i16(at + 2) << 16); };
+        const int w = i32(8), h = i32(12), tris = i32(32), ofsSt = i32(48), ofsTris = i32(52);
+        newSkin(entry.path().string());
+        if (w > 512) {
+            EXPECT_EQ(lastMessage(), kLoadProblem);
+            ++tooWide;
+            continue;
+        }
+        ASSERT_EQ(frm.Skin_Width.str() + "x" + frm.Skin_Height.str(), std::to_string(w) + "x" + std::to_string(h));
+        EXPECT_EQ(countOf(frm, 0) + countOf(frm, 15), w * h + 1001);
+        EXPECT_TRUE(std::all_of(frm.Skin_Grid.data() + w * h, frm.Skin_Grid.data() + frm.Skin_Grid.size(),
+                                [](int16_t v) { return v == 0; }));
+        for (int t = 0; t < tris * 3; ++t) {
+            const int st = ofsSt + 4 * i16(ofsTris + 12 * (t / 3) + 6 + 2 * (t % 3));
+            const int s = i16(st), u = i16(st + 2);
+            if (s >= 0 && s < w && u >= 0 && u < h) {
+                ASSERT_EQ(frm.Skin_Grid(u * w + s), 15) << s << "," << u;
+            }
+        }
+        ++made;
+        mostTriangles = std::max(mostTriangles, tris);
+    }
+    EXPECT_GT(made, 40);
+    EXPECT_GT(tooWide, 0);
+    EXPECT_EQ(mostTriangles, 2078);
 }
 
 } // namespace
