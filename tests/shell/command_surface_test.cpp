@@ -63,39 +63,33 @@ TEST_F(CommandSurface, EveryMenuItemComesFromTheTableOnceWithItsOwnShortcut) {
 }
 
 TEST_F(CommandSurface, TheMenuFollowsItsCheckMarkAndSomeCloseButtonsLeaveIt) {
-    // View > Palette, through the menu item as the window calls it.
-    frm.PALE.Click();
-    EXPECT_FALSE(frm.SSPanel1.Visible);
-    EXPECT_FALSE(frm.PALE.Checked);
-    frm.PALE.Click();
-    EXPECT_TRUE(frm.SSPanel1.Visible);
-    EXPECT_TRUE(frm.PALE.Checked);
-    // The palette's close button clears the mark: the menu brings the panel back at once.
-    frm.SSCommand8.Click();
-    EXPECT_FALSE(frm.SSPanel1.Visible);
-    EXPECT_FALSE(frm.PALE.Checked);
-    frm.PALE.Click();
-    EXPECT_TRUE(frm.SSPanel1.Visible);
-
-    // The tool bar's and filter bar's close buttons leave the mark: the first use of the
-    // menu item only clears it, the second shows the bar.
-    struct Pair {
+    // The palette's close button clears the mark, so the menu brings the panel back at
+    // once; the tool bar's and filter bar's leave it, so the first use of the menu item
+    // only clears it and the second shows the bar.
+    struct Bar {
         platform::CommandButton& close;
         platform::MenuItem& item;
         platform::Panel& bar;
+        bool closeClearsMark;
     };
-    for (Pair p : {Pair{frm.SSCommand27, frm.ToolBar, frm.SSPanel13},
-                   Pair{frm.SSCommand42, frm.fil, frm.SSPanel15}}) {
-        SCOPED_TRACE(p.item.name());
-        p.close.Click();
-        EXPECT_FALSE(p.bar.Visible);
-        EXPECT_TRUE(p.item.Checked);
-        p.item.Click();
-        EXPECT_FALSE(p.bar.Visible);
-        EXPECT_FALSE(p.item.Checked);
-        p.item.Click();
-        EXPECT_TRUE(p.bar.Visible);
-        EXPECT_TRUE(p.item.Checked);
+    for (Bar b : {Bar{frm.SSCommand8, frm.PALE, frm.SSPanel1, true},
+                  Bar{frm.SSCommand27, frm.ToolBar, frm.SSPanel13, false},
+                  Bar{frm.SSCommand42, frm.fil, frm.SSPanel15, false}}) {
+        SCOPED_TRACE(b.item.name());
+        b.close.Click();
+        EXPECT_FALSE(b.bar.Visible);
+        EXPECT_EQ(b.item.Checked.get(), !b.closeClearsMark);
+        if (!b.closeClearsMark) {
+            b.item.Click();
+            EXPECT_FALSE(b.bar.Visible);
+            EXPECT_FALSE(b.item.Checked);
+        }
+        b.item.Click();
+        EXPECT_TRUE(b.bar.Visible);
+        EXPECT_TRUE(b.item.Checked);
+        b.item.Click(); // and hides the bar it shows
+        EXPECT_FALSE(b.bar.Visible);
+        EXPECT_FALSE(b.item.Checked);
     }
 
     frm.SSPanel11.Visible = true;
