@@ -17,8 +17,7 @@ TEST_F(CanvasMouse, PencilStrokesAtZoomOneTwoFoldAndHalf) {
     EXPECT_EQ(frm.picture1.Point(10, 10), colourOf(200));
     EXPECT_EQ(frm.Picture7.Point(14, 12), colourOf(200));
     EXPECT_EQ(grid(12, 11), skinIndex(12, 11));
-    move(20, 7, 0); // without a button the pixel display follows, nothing paints
-    EXPECT_EQ(frm.Text5.Text.get() + "," + frm.Text4.Text.get(), "20,7");
+    move(20, 7, 0); // without a button nothing paints
     EXPECT_EQ(grid(20, 7), skinIndex(20, 7));
 
     frm.mZoom_Click();
