@@ -53,7 +53,7 @@ std::vector<uint8_t> bigSkinPixels() {
         e.host.answerOpen(real.string());
         e.host.answerMsgBox(platform::kMsgNo);
         e.frm.pcxIm_Click();
-        const int w = e.frm.Skin_Width, h = e.frm.Skin_Height - 4;
+        const int w = e.frm.Skin_Width, h = e.frm.Skin_Height - 3; // the rows are Ymax + 1
         if (w > 0 && h > 0) {
             for (int y = 0; y < kBig; ++y)
                 for (int x = 0; x < kBig; ++x)
