@@ -4,6 +4,7 @@
 #include <cmath>
 #include <fstream>
 #include <iterator>
+#include <map>
 
 namespace tavrin::fuzz {
 
@@ -14,6 +15,17 @@ const std::string kNoPalette = "Path/File not found, or not a valid file.";
 const std::string kPaletteQuestion = "Import Palette From Skin?";
 const std::string kRecommend = "Tavrin Recommends that you now save this wireframe as a PCX file for optimal "
                                "performance. Painting on the MD2 wireframe can be extremely slow.";
+
+// Read once: the good file follows every input.
+const std::vector<uint8_t>& fileBytes(const std::string& path) {
+    static std::map<std::string, std::vector<uint8_t>> read;
+    auto [it, fresh] = read.try_emplace(path);
+    if (fresh) {
+        std::ifstream in(path, std::ios::binary);
+        it->second.assign(std::istreambuf_iterator<char>(in), std::istreambuf_iterator<char>());
+    }
+    return it->second;
+}
 
 std::vector<std::string> shown(const platform::ScriptedHost& host) {
     std::vector<std::string> texts;
@@ -89,8 +101,7 @@ std::string replay(FrmMain& frm, platform::ScriptedHost& host, const Target& tar
             return "showed \"" + text + "\"";
 
     const std::string good = dataFolder + "/" + target.goodFile;
-    std::ifstream in(good, std::ios::binary);
-    const std::vector<uint8_t> bytes((std::istreambuf_iterator<char>(in)), std::istreambuf_iterator<char>());
+    const std::vector<uint8_t>& bytes = fileBytes(good);
     host = platform::ScriptedHost(host.AppPath());
     target.road(frm, host, Input{good, bytes.data(), bytes.size()});
     if (!target.tookGoodFile(frm, host)) return "left the editor unable to take " + good;

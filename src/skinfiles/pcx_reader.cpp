@@ -10,7 +10,6 @@
 
 namespace tavrin {
 
-
 void FrmMain::pcxIm_Click() {
     try {
         StatusBar1.Panels(1).Text = "Select Image";

@@ -29,7 +29,7 @@ struct RunCells {
 };
 
 struct RunGrid {
-    int16_t* cells; // all 0 on entry (freshly allocated)
+    int16_t* cells; // all 0 on entry, as ReDim leaves it
     int64_t count;
     int64_t width;   // cells a row
     int64_t lastRow; // the decoding stops once a run ends below this row
