@@ -1,5 +1,5 @@
-// The field table: one line per field of the main form. A new field needs one FIELD
-// line here (and a valueText/assign overload if it brings a new kind of value).
+// The field table, made from the form's own list of its fields: a new field is known
+// here as soon as it is declared (a new kind of value needs its valueText and assign).
 #include "cli/fields.h"
 
 #include "cli/field_values.h"
@@ -50,111 +50,13 @@ template <class T> Field field(const char* name, vb::Array3<T> FrmMain::*member)
             }};
 }
 
-#define FIELD(name) field(#name, &FrmMain::name)
-
 } // namespace
 
 const std::vector<Field>& fields() {
     static const std::vector<Field> table = {
-        // Skin and files
-        FIELD(Skin_Grid),
-        FIELD(Undo_Grid),
-        FIELD(Skin_Width),
-        FIELD(Skin_Height),
-        FIELD(Skin_Cols),
-        FIELD(Skin_Rows),
-        FIELD(PCX_Header),
-        FIELD(File_Name),
-        FIELD(Skin_Path),
-        FIELD(Pal_Path),
-        FIELD(Pal_Answer),
-        FIELD(Image_Missing),
-        FIELD(Save_As_Flag),
-        // Picture and view
-        FIELD(Pixel_Width),
-        FIELD(Pixel_Height),
-        FIELD(Scale_X),
-        FIELD(Scale_Y),
-        FIELD(Zoom_Factor),
-        FIELD(Pan_Step),
-        // Tools and colour
-        FIELD(Tool_Mode),
-        FIELD(Filter_Mode),
-        FIELD(Pal_Table),
-        FIELD(Cur_Color),
-        FIELD(Cur_R),
-        FIELD(Cur_G),
-        FIELD(Cur_B),
-        FIELD(Paint_Color),
-        FIELD(Check_Color),
-        FIELD(Color_Index),
-        FIELD(Palette_Mode),
-        FIELD(Mask_Color),
-        FIELD(Tint_Value),
-        FIELD(Wire_Color),
-        FIELD(Brush_Size),
-        FIELD(Brush_Radius),
-        FIELD(Band_Old_X),
-        FIELD(Band_Old_Y),
-        FIELD(Text_X),
-        FIELD(Text_Y),
-        FIELD(Text_Pixels),
-        FIELD(Cur_X),
-        FIELD(Cur_Y),
-        FIELD(Start_X),
-        FIELD(Start_Y),
-        FIELD(Band_X),
-        FIELD(Band_Y),
-        FIELD(Drag_Active),
-        FIELD(Brush_X),
-        FIELD(Brush_Y),
-        FIELD(Pan_X),
-        FIELD(Pan_Y),
-        FIELD(Work_Buf),
-        FIELD(Fill_Rect),
-        FIELD(Gradient_On),
-        FIELD(Gradient_Dark),
-        FIELD(Paint_Shade),
-        FIELD(Pick_Colored),
-        FIELD(Pick_X),
-        FIELD(Pick_Y),
-        // Palette and colour matching
-        FIELD(Pal_File_Len),
-        FIELD(Near_Color),
-        FIELD(Near_Distance),
-        // Colour picking
-        FIELD(Pal_X),
-        FIELD(Pal_Y),
-        FIELD(Next_Color_1),
-        FIELD(Next_Color_2),
-        FIELD(Prior_Color_1),
-        FIELD(Prior_Color_2),
-        FIELD(Mask_State),
-        // Model
-        FIELD(Wire_Loaded),
-        FIELD(Wire_Shown),
-        FIELD(Model_Path),
-        FIELD(Tri_Table),
-        FIELD(UV_Table),
-        FIELD(MD2_Ident),
-        FIELD(MD2_Skin_Width),
-        FIELD(MD2_Skin_Height),
-        FIELD(MD2_Num_St),
-        FIELD(MD2_Num_Tris),
-        FIELD(MD2_Ofs_Skins),
-        FIELD(MD2_Ofs_St),
-        FIELD(MD2_Ofs_Tris),
-        // Mask and colour replace
-        FIELD(Mask_List),
-        FIELD(Mask_Count),
-        FIELD(Mask_Pos),
-        FIELD(Mask_Scan_X),
-        FIELD(Mask_Scan_Y),
-        FIELD(Mask_Pixel),
-        FIELD(Mask_Row_Pixel),
-        // Command surface
-        FIELD(Drag_Offset_X),
-        FIELD(Drag_Offset_Y),
+#define TAVRIN_FIELD(Type, name, ...) field(#name, &FrmMain::name),
+#include "editor/frm_main_fields.def"
+#undef TAVRIN_FIELD
     };
     return table;
 }

@@ -1,7 +1,6 @@
 #pragma once
 // The nearest-palette-colour match as a function of the table and the colour, and the
-// cache of its answers that FrmMain keeps until the palette changes.
-#include "editor/frm_main.h"
+// cache of its answers that the form keeps until the palette changes.
 #include "editor/records.h"
 #include "platform/vb_array.h"
 
@@ -27,14 +26,14 @@ MatchResult matchColor(const vb::Array<PalRecord>& table, int32_t check, int32_t
 // Answers by input colour, direct-mapped. An answer that gives back Near_Color as it
 // stood before the call (no record came near enough) depends on more than the colour
 // and isn't kept.
-struct FrmMain::MatchCache {
+class MatchCache {
+public:
     struct Entry {
         bool used = false; // no colour marks an empty slot: -1 is an input like any other
         int32_t color = 0;
         MatchResult result;
     };
     static constexpr int kBits = 16;
-    std::vector<Entry> entries = std::vector<Entry>(std::size_t{1} << kBits);
 
     static std::size_t slot(int32_t color) {
         return (static_cast<uint32_t>(color) * 2654435761u) >> (32 - kBits);
@@ -48,6 +47,9 @@ struct FrmMain::MatchCache {
         entries[slot(color)] = Entry{true, color, r};
     }
     void clear() { std::fill(entries.begin(), entries.end(), Entry{}); }
+
+private:
+    std::vector<Entry> entries = std::vector<Entry>(std::size_t{1} << kBits);
 };
 
 } // namespace tavrin

@@ -4,6 +4,7 @@
 #include "platform/vb_numeric.h"
 
 #include <cmath>
+#include <memory>
 
 namespace tavrin {
 
@@ -58,7 +59,9 @@ void FrmMain::Get_Pal() {
     }
 }
 
-void FrmMain::paletteChanged() { matchCache_->clear(); }
+void FrmMain::paletteChanged() {
+    if (matchCache_) matchCache_->clear();
+}
 
 MatchResult matchColor(const vb::Array<PalRecord>& table, int32_t check, int32_t nearColor) {
     MatchResult out;
@@ -92,6 +95,7 @@ MatchResult matchColor(const vb::Array<PalRecord>& table, int32_t check, int32_t
 
 void FrmMain::Temp_Color_Check() {
     const int32_t input = Check_Color;
+    if (!matchCache_) matchCache_ = std::make_shared<MatchCache>();
     const MatchResult* known = matchCache_->find(input);
     MatchResult fresh;
     if (!known) {

@@ -1,5 +1,8 @@
-// Applies the command tables to the controls of the main window.
+// Lays out the main window from the command tables and connects every event of its
+// controls to the form's handler: the one place where the window is wired.
 #include "shell/command_tables.h"
+
+#include "editor/frm_main.h"
 
 #include "platform/vb_error.h"
 
@@ -19,6 +22,11 @@ void setCaption(platform::Control& c, const std::string& caption) {
 } // namespace
 
 void FrmMain::buildCommandSurface() {
+    // The tint samples are drawn into their boxes before the boxes take their places.
+    Slider1.Max = 5;
+    Slider1.Value = 1;
+    makeTintSamples();
+
     // Menus: the level of each item says which of the items above it is its parent.
     std::vector<platform::MenuItem*> parents(3, nullptr);
     for (const shell::MenuSpec& m : shell::menuTable()) {
@@ -47,6 +55,17 @@ void FrmMain::buildCommandSurface() {
 
     for (const shell::ToolbarSpec& b : shell::toolbarTable())
         tbToolBar.Buttons.push_back({b.key, b.toolTip, 0});
+    tbToolBar.ButtonClick = [this](const std::string& key) { tbToolBar_ButtonClick(key); };
+
+    // The events that carry arguments, which the tables (clicks only) can't hold.
+    Resize = [this] { Form_Resize(); };
+    GotFocus = [this] { Form_GotFocus(); };
+    Picture7.MouseDown = [this](int16_t b, int16_t s, float x, float y) { Picture7_MouseDown(b, s, x, y); };
+    Picture7.MouseMove = [this](int16_t b, int16_t s, float x, float y) { Picture7_MouseMove(b, s, x, y); };
+    Picture7.MouseUp = [this](int16_t b, int16_t s, float x, float y) { Picture7_MouseUp(b, s, x, y); };
+    Picture2.MouseDown = [this](int16_t b, int16_t s, float x, float y) { Picture2_MouseDown(b, s, x, y); };
+    Picture2.MouseUp = [this](int16_t b, int16_t s, float x, float y) { Picture2_MouseUp(b, s, x, y); };
+    Slider1.Change = [this] { Slider1_Change(); };
 }
 
 } // namespace tavrin
