@@ -1,6 +1,8 @@
-// The palette: reading a raw palette file, its picture, and the match of any colour.
+// The palette: reading a raw palette file into the table and its picture, and the
+// match of any colour.
 #include "editor/frm_main.h"
 #include "palette/color_match.h"
+#include "palette/palette_format.h"
 #include "platform/vb_numeric.h"
 
 #include <cmath>
@@ -10,41 +12,29 @@ namespace tavrin {
 
 void FrmMain::Get_Pal() {
     try {
-        // 1-based file positions of the next red, green and blue bytes.
-        int64_t redPos = 1, greenPos = 2, bluePos = 3;
-        int record = 0;
-        int16_t x = 0, y = 0;
-        uint8_t red = 0, green = 0, blue = 0;
+        int64_t first = 1;
         Files.OpenForRead(1, Pal_Path.str());
         if (Pal_Answer == 6) {
             Pal_File_Len = static_cast<double>(Files.LOF(1));
-            redPos = static_cast<int64_t>(Pal_File_Len.num()) - 767;
-            greenPos = redPos + 1;
-            bluePos = redPos + 2;
+            first = static_cast<int64_t>(Pal_File_Len.num()) - 767;
             Pal_Answer = "";
         }
-        while (!Files.EOF_(1)) {
-            Files.Get(1, redPos, red);
-            Files.Get(1, greenPos, green);
-            Files.Get(1, bluePos, blue);
-            redPos += 3;
-            greenPos += 3;
-            bluePos += 3;
-            Picture2.Line(x, y, x + 10, y + 10, vb::RGB(red, green, blue), platform::kFilledBoxKind);
-            // Two records past the palette proper are kept; anything behind them is not read.
-            if (record > 257) {
-                Files.Close(1);
-                paletteChanged();
-                return;
-            }
-            PalRecord& r = Pal_Table(record);
-            r.Red = red;
-            r.Green = green;
-            r.Blue = blue;
+        std::vector<uint8_t> bytes;
+        const std::vector<Rgb> colors =
+            readRawPalette(Files.GetWindow(1, first, first + 3 * kRawPaletteMostColors - 1, bytes), first);
+        int16_t x = 0, y = 0;
+        for (std::size_t record = 0; record < colors.size(); ++record) {
+            const Rgb c = colors[record];
+            Picture2.Line(x, y, x + 10, y + 10, vb::RGB(c.red, c.green, c.blue), platform::kFilledBoxKind);
+            // Two records past the palette proper are kept; the one drawn after them is not.
+            if (record > 257) break;
+            PalRecord& r = Pal_Table(static_cast<int>(record));
+            r.Red = c.red;
+            r.Green = c.green;
+            r.Blue = c.blue;
             r.Index = static_cast<int16_t>(record);
             r.Cell_X = x;
             r.Cell_Y = y;
-            ++record;
             x = static_cast<int16_t>(x + 11);
             if (x > 170) {
                 x = 0;

@@ -132,6 +132,15 @@ std::vector<uint8_t> FileTable::GetBytes(int number, int64_t position, std::size
     return bytes;
 }
 
+ByteWindow FileTable::GetWindow(int number, int64_t from, int64_t last, std::vector<uint8_t>& storage) {
+    const int64_t length = LOF(number);
+    const int64_t first = std::max<int64_t>(from, 1);
+    last = std::min(last, length);
+    storage.clear();
+    if (last >= first) storage = GetBytes(number, first, static_cast<std::size_t>(last - first + 1));
+    return ByteWindow{first, length, storage};
+}
+
 void FileTable::Put(int number, int64_t position, const uint8_t* bytes, std::size_t count) {
     auto& f = file(number);
     if (position < 1) raise(BadRecordNumber);

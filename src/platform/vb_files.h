@@ -3,6 +3,8 @@
 // 1-based. A read that runs past the end leaves its target unchanged and only then
 // does EOF turn true. Readers may take a whole range in one call (GetBytes) and decode
 // from memory; writers collect their bytes and the file is written once, at Close.
+#include "platform/byte_window.h"
+
 #include <cstdint>
 #include <fstream>
 #include <memory>
@@ -43,6 +45,9 @@ public:
     // The bytes from position on, up to count of them (fewer at the end of the file).
     // Sets EOF like a Get that ran short when fewer came back.
     std::vector<uint8_t> GetBytes(int number, int64_t position, std::size_t count);
+    // Positions from to last, clipped to the file, in one read into storage: a window
+    // that the format readers decode as if they read the file itself.
+    ByteWindow GetWindow(int number, int64_t from, int64_t last, std::vector<uint8_t>& storage);
 
     // Put #number, position, bytes.
     void Put(int number, int64_t position, const uint8_t* bytes, std::size_t count);

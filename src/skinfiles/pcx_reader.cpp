@@ -4,7 +4,7 @@
 #include "editor/frm_main.h"
 #include "platform/vb_memory.h"
 #include "platform/vb_numeric.h"
-#include "skinfiles/pcx_runs.h"
+#include "skinfiles/pcx_format.h"
 
 #include <memory>
 
@@ -44,16 +44,10 @@ void FrmMain::Get_PCX() {
         Files.OpenForRead(1, File_Name);
         const int64_t fileLength = Files.LOF(1);
         // The decoder's cells run to L + 1000; those no byte was read into hold 0.
-        const int64_t lastCell = fileLength + 1000;
-        vb::checkAllocation(static_cast<std::size_t>(lastCell + 1), 1);
-
-        uint8_t low = 0, high = 0;
-        int16_t ymaxField = 0;
-        Files.Get(1, 9, low);
-        Files.Get(1, 10, high);
-        Files.Get(1, 11, ymaxField);
-        const int64_t W = 256 * int64_t{high} + low + 1;
-        const int64_t Ymax = static_cast<uint16_t>(ymaxField);
+        vb::checkAllocation(static_cast<std::size_t>(fileLength + 1001), 1);
+        const std::vector<uint8_t> file = Files.GetBytes(1, 1, static_cast<std::size_t>(fileLength));
+        const PcxLayout layout = parsePcx(file);
+        const int64_t W = layout.width, Ymax = layout.ymax;
 
         picture1.Width = 15.0 * static_cast<double>(W) - 30;
         Skin_Width = static_cast<int>(W);
@@ -67,14 +61,9 @@ void FrmMain::Get_PCX() {
         Picture4.Height = vb::wrap16(15 * (Ymax + 4));
         host_.DoEvents();
 
-        // The data: positions 129 to L - 769, read in one go.
-        std::vector<uint8_t> data;
-        if (fileLength - 769 >= 129)
-            data = Files.GetBytes(1, 129, static_cast<std::size_t>(fileLength - 769 - 129 + 1));
         const ValueColors values = valueColors(Pal_Table);
         const RunGrid grid{Skin_Grid.data(), static_cast<int64_t>(Skin_Grid.size()), W, Ymax + 4};
-        const RunsDecoded decoded =
-            decodeRuns(RunCells{data.data(), static_cast<int64_t>(data.size()), lastCell}, grid, values);
+        const RunsDecoded decoded = decodeRuns(layout.cells, grid, values);
 
         // Picture4 (the skin less its border) shows each pixel in the colour its cell was
         // decoded in, as a PSet for each would have left it; it is made once the decoding
@@ -86,9 +75,8 @@ void FrmMain::Get_PCX() {
         Picture4.Picture = std::make_shared<const platform::Raster>(std::move(image));
         picture1.Picture = Picture4.Image();
         SSPanel6.Visible = false;
-        const int64_t headerBytes = std::min<int64_t>(fileLength, 128);
-        std::vector<uint8_t> header = Files.GetBytes(1, 1, static_cast<std::size_t>(headerBytes));
-        for (std::size_t k = 0; k < header.size(); ++k) PCX_Header(static_cast<int>(k + 1)) = header[k];
+        for (std::size_t k = 0; k < layout.header.size(); ++k)
+            PCX_Header(static_cast<int>(k + 1)) = layout.header[k];
         Files.Close(1);
     } catch (const vb::Error&) {
         // Silent: file 1 stays open until the next command closes every file.
