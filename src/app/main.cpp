@@ -12,7 +12,7 @@
 int main(int argc, char** argv) {
     QApplication app(argc, argv);
     QApplication::setApplicationName("Tavrin");
-    QApplication::setApplicationVersion("0.3.4");
+    QApplication::setApplicationVersion(tavrin::kVersion);
 
     platform::qt::QtHost host;
     std::unique_ptr<tavrin::FrmMain> frmMain;

@@ -31,7 +31,7 @@ void callCommand(Session& s, Args& a) {
     a.end();
     const Procedure* p = findProcedure(name);
     if (!p) throw ScriptError("no procedure " + name);
-    p->run(s.main());
+    p->run(s.mainForm());
 }
 
 void typeCommand(Session& s, Args& a) {
@@ -60,7 +60,7 @@ void keyCommand(Session& s, Args& a) {
 void sliderCommand(Session& s, Args& a) {
     auto value = static_cast<int>(a.integer("a slider value", INT32_MIN, INT32_MAX));
     a.end();
-    platform::Slider& slider = s.main().Slider1;
+    platform::Slider& slider = s.mainForm().Slider1;
     value = std::clamp(value, std::min<int>(slider.Min, slider.Max), std::max<int>(slider.Min, slider.Max));
     if (value == slider.Value) return;
     slider.Value = value;
@@ -75,7 +75,7 @@ void setCommand(Session& s, Args& a) {
     Index i = readIndex(*f, a);
     const Token& value = a.next("a value");
     a.end();
-    f->set(s.main(), i, value);
+    f->set(s.mainForm(), i, value);
 }
 
 } // namespace tavrin::cli

@@ -23,7 +23,7 @@ void writeFile(const std::string& path, const std::string& bytes) {
 void dumpGrid(Session& s, Args& a) {
     std::string path = a.text("a path");
     a.end();
-    const auto& grid = s.main().Skin_Grid;
+    const auto& grid = s.mainForm().Skin_Grid;
     std::string bytes;
     bytes.reserve(grid.size() * 2);
     for (std::size_t k = 0; k < grid.size(); ++k) {

@@ -30,14 +30,14 @@ void boxMouse(const char* command, platform::PictureBox& box, const MouseEvent& 
 
 } // namespace
 
-void canvasMouse(Session& s, const MouseEvent& e) { boxMouse("mouse", s.main().Picture7, e); }
+void canvasMouse(Session& s, const MouseEvent& e) { boxMouse("mouse", s.mainForm().Picture7, e); }
 
-void paletteMouse(Session& s, const MouseEvent& e) { boxMouse("palette", s.main().Picture2, e); }
+void paletteMouse(Session& s, const MouseEvent& e) { boxMouse("palette", s.mainForm().Picture2, e); }
 
 // As the window reports a new size: whole pixels, taken as they are, then Resize.
 void resizeMain(Session& s, double width, double height) {
     if (width < 0 || height < 0) throw ScriptError("a window size can't be negative");
-    FrmMain& frm = s.main();
+    FrmMain& frm = s.mainForm();
     frm.Width.setFromView(vb::roundHalfEven(width / 15.0) * 15.0);
     frm.Height.setFromView(vb::roundHalfEven(height / 15.0) * 15.0);
     fire(frm.Resize);

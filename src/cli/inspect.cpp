@@ -28,7 +28,7 @@ void printCommand(Session& s, Args& a) {
     if (const Field* f = findField(name)) {
         Index i = readIndex(*f, a);
         a.end();
-        line = elementName(*f, i) + "=" + f->print(s.main(), i);
+        line = elementName(*f, i) + "=" + f->print(s.mainForm(), i);
     } else if (name.find('.') == std::string::npos) {
         throw ScriptError("no field " + name);
     } else if (Target t = resolve(s, name); t.rest == "Point") {
@@ -46,7 +46,7 @@ void boundsCommand(Session& s, Args& a) {
     const Field* f = findField(name);
     if (!f) throw ScriptError("no field " + name);
     if (f->rank == 0) throw ScriptError(name + " is not an array");
-    std::string range = f->bounds(s.main());
+    std::string range = f->bounds(s.mainForm());
     s.out() << name << '=' << range << '\n';
 }
 

@@ -47,7 +47,7 @@ void Session::showMain() {
     host_.ShowForm(*main_);
 }
 
-FrmMain& Session::main() {
+FrmMain& Session::mainForm() {
     if (!main_) throw ScriptError("the main form is not loaded");
     return *main_;
 }

@@ -24,7 +24,7 @@ public:
 
     platform::ScriptedHost& host() { return host_; }
     std::ostream& out() { return out_; }
-    FrmMain& main();
+    FrmMain& mainForm();
     FrmSplash& splash();
 
     // The bar a `grip` has picked up, waiting for its `drop`.

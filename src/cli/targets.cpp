@@ -17,7 +17,7 @@ struct FormEntry {
 // The forms a name may start with; frmPrint gets its line when the print layout exists.
 const std::vector<FormEntry>& forms() {
     static const std::vector<FormEntry> table = {
-        {"frmMain", [](Session& s) -> platform::Form* { return &s.main(); }},
+        {"frmMain", [](Session& s) -> platform::Form* { return &s.mainForm(); }},
         {"frmSplash", [](Session& s) -> platform::Form* { return &s.splash(); }},
     };
     return table;
@@ -44,7 +44,7 @@ Target resolve(Session& s, const std::string& path) {
         if (platform::Control* c = name.empty() ? nullptr : form->find(name)) return {c, after};
         return {form, rest};
     }
-    if (platform::Control* c = s.main().find(head)) return {c, rest};
+    if (platform::Control* c = s.mainForm().find(head)) return {c, rest};
     throw ScriptError("no control or form named " + head);
 }
 

@@ -72,6 +72,9 @@ private:
     void repaintCanvas();
     // The start of the open commands: clears the view, prepares the dialog, resets the zoom.
     void prepareOpenCommand(const char* pattern, const char* title, const char* kind);
+    void prepareFileDialog(const char* pattern, const char* title, const char* kind);
+    // The open dialog as prepared; its answer into File_Name, Cancel raises.
+    void askFileToOpen();
     // The showing of a loaded picture, before and after the busy pointer goes off.
     void showLoadedPictureStart();
     // betweenCenters: what runs between the two centrings (a new skin takes its grid there).
@@ -86,6 +89,8 @@ private:
     void drawModelLines(PictureBox& box, double zoom, int32_t color);
     // Tri_Table and UV_Table cut down to the single record 0.
     void dropModelTables();
+    // The check marks of "&Wire Frame" and of the popup's item.
+    void markWireShown(bool shown);
 
     // ---------------- editor/undo.cpp ----------------
     // The grid half of the snapshot that a press on the canvas takes.

@@ -47,16 +47,26 @@ void FrmMain::prepareOpenCommand(const char* pattern, const char* title, const c
     Picture7.Visible = false;
     picture1.Visible = false;
     picture1.Refresh();
-    CommonDialog1.FileName = pattern;
-    CommonDialog1.Pattern = pattern;
-    CommonDialog1.DialogTitle = title;
-    CommonDialog1.KindText = kind;
+    prepareFileDialog(pattern, title, kind);
     Image_Missing = 2;
     Zoom_Factor = 1;
     Pixel_Width = 0;
     Scale_X = 1;
     Pixel_Height = 0;
     Scale_Y = 1;
+}
+
+// The dialog proposes the pattern as the file's name.
+void FrmMain::prepareFileDialog(const char* pattern, const char* title, const char* kind) {
+    CommonDialog1.FileName = pattern;
+    CommonDialog1.Pattern = pattern;
+    CommonDialog1.DialogTitle = title;
+    CommonDialog1.KindText = kind;
+}
+
+void FrmMain::askFileToOpen() {
+    platform::showOpen(host_, CommonDialog1);
+    File_Name = CommonDialog1.FileName;
 }
 
 void FrmMain::showLoadedPictureStart() {
@@ -86,16 +96,6 @@ void FrmMain::showLoadedPictureEnd(double panelExtraHeight, void (FrmMain::*betw
     frmCenter();
     Tool_Mode = "Zoom";
     SSPanel3.Caption = "Zoom";
-}
-
-void FrmMain::ActualPixels_Click() {
-    if (!ActualPixels.Checked) {
-        SSPanel11.Visible = true;
-        ActualPixels.Checked = true;
-    } else {
-        SSPanel11.Visible = false;
-        ActualPixels.Checked = false;
-    }
 }
 
 void FrmMain::Form_Resize() {

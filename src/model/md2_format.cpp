@@ -36,24 +36,32 @@ PositionRange md2TrisPositions(const Md2Header& h) {
     return {int64_t{h.ofsTris} + 1, int64_t{h.ofsTris} + 12 * md2RecordsVisited(h.numTris)};
 }
 
+namespace {
+
+// Records 0 on of a lump of records `size` bytes long from `offset`, each read by one().
+template <class Record, class ReadOne>
+void readLump(const vb::ByteWindow& lump, int32_t count, int32_t offset, int64_t size,
+              vb::Array<Record>& table, ReadOne one) {
+    const int64_t visited = md2RecordsVisited(count);
+    for (int64_t i = 0; i < visited; ++i) one(i * size + offset, table(i));
+}
+
+} // namespace
+
 void readMd2St(const vb::ByteWindow& lump, const Md2Header& h, vb::Array<UVRecord>& table) {
-    const int64_t count = md2RecordsVisited(h.numSt);
-    for (int64_t i = 0; i < count; ++i) {
-        const int64_t at = i * 4 + h.ofsSt;
-        getAt(lump, at + 1, table(i).S);
-        getAt(lump, at + 3, table(i).T);
-    }
+    readLump(lump, h.numSt, h.ofsSt, 4, table, [&](int64_t at, UVRecord& r) {
+        getAt(lump, at + 1, r.S);
+        getAt(lump, at + 3, r.T);
+    });
 }
 
 // The vertex indices at the start of each record aren't needed.
 void readMd2Tris(const vb::ByteWindow& lump, const Md2Header& h, vb::Array<TriRecord>& table) {
-    const int64_t count = md2RecordsVisited(h.numTris);
-    for (int64_t i = 0; i < count; ++i) {
-        const int64_t at = i * 12 + h.ofsTris;
-        getAt(lump, at + 7, table(i).A);
-        getAt(lump, at + 9, table(i).B);
-        getAt(lump, at + 11, table(i).C);
-    }
+    readLump(lump, h.numTris, h.ofsTris, 12, table, [&](int64_t at, TriRecord& r) {
+        getAt(lump, at + 7, r.A);
+        getAt(lump, at + 9, r.B);
+        getAt(lump, at + 11, r.C);
+    });
 }
 
 } // namespace tavrin

@@ -13,8 +13,7 @@ void FrmMain::NewSkin_Click() {
     StatusBar1.Panels(1).Text = "Select Image";
     try {
         prepareOpenCommand("*.MD2", "New Skin From Base MD2 Wireframe.", "Quake 2 Model Files");
-        platform::showOpen(host_, CommonDialog1);
-        File_Name = CommonDialog1.FileName;
+        askFileToOpen();
         Model_Path = File_Name;
         host_.DoEvents();
         StatusBar1.Panels(1).Text = "Importing Image...";
@@ -25,8 +24,7 @@ void FrmMain::NewSkin_Click() {
         StatusBar1.Panels(1).Text = "Ready";
         dropModelTables();
         Wire_Loaded = 0;
-        wF.Checked = false;
-        wiPop.Checked = false;
+        markWireShown(false);
     } catch (const vb::Error&) {
         // Wire_Loaded, the menu marks, Skin_Grid and the hidden boxes stay as the failure
         // left them.

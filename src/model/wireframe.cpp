@@ -32,6 +32,12 @@ void FrmMain::Draw_Frame() {
     }
 }
 
+// The menu item and its twin in the popup carry the same mark.
+void FrmMain::markWireShown(bool shown) {
+    wF.Checked = shown;
+    wiPop.Checked = shown;
+}
+
 void FrmMain::dropModelTables() {
     Tri_Table.ReDim(0, 0);
     UV_Table.ReDim(0, 0);
@@ -43,30 +49,23 @@ void FrmMain::wF_Click() {
     try {
         if (Wire_Loaded == 0) {
             StatusBar1.Panels(1).Text = "Select Image";
-            CommonDialog1.FileName = "*.MD2";
-            CommonDialog1.Pattern = "*.MD2";
-            CommonDialog1.DialogTitle = "Import Base MD2 Wireframe.";
-            CommonDialog1.KindText = "Quake 2 Model Files";
-            platform::showOpen(host_, CommonDialog1);
-            File_Name = CommonDialog1.FileName;
+            prepareFileDialog("*.MD2", "Import Base MD2 Wireframe.", "Quake 2 Model Files");
+            askFileToOpen();
             Model_Path = File_Name;
             host_.DoEvents();
             // Still says so after the import: nothing sets it back.
             StatusBar1.Panels(1).Text = "Importing Image...";
             Import_Frame();
-            wF.Checked = true;
-            wiPop.Checked = true;
+            markWireShown(true);
             Wire_Shown = 1;
         } else if (Wire_Shown == 1) {
-            wF.Checked = false;
-            wiPop.Checked = false;
+            markWireShown(false);
             Wire_Shown = 2;
             Picture7.Refresh();
             repaintCanvas();
             host_.DoEvents();
         } else if (Wire_Shown == 2) {
-            wF.Checked = true;
-            wiPop.Checked = true;
+            markWireShown(true);
             Wire_Shown = 1;
             Draw_Frame();
         } else {
@@ -83,31 +82,33 @@ void FrmMain::wiPop_Click() { wF_Click(); }
 void FrmMain::UCW_Click() {
     dropModelTables();
     Wire_Loaded = 0;
-    wF.Checked = false;
-    wiPop.Checked = false;
+    markWireShown(false);
     repaintCanvas();
     host_.DoEvents();
 }
 
+namespace {
+
 // Both colour commands draw the lines even while the overlay is hidden: they stand until
 // the next repaint and the menu mark stays off. That is meant.
-void FrmMain::wFc_Click() {
+template <class Take> void pickColorThenDraw(FrmMain& frm, Take take) {
     try {
-        platform::showColor(host_, CommonDialog1);
-        Wire_Color = CommonDialog1.Color.get();
-        Draw_Frame();
+        platform::showColor(frm.host(), frm.CommonDialog1);
+        take(frm.CommonDialog1.Color.get());
+        frm.Draw_Frame();
     } catch (const vb::Error&) {
     }
 }
 
+} // namespace
+
+void FrmMain::wFc_Click() {
+    pickColorThenDraw(*this, [this](int color) { Wire_Color = color; });
+}
+
 // The window's colour round the canvas; nothing to do with the skin or the palette.
 void FrmMain::bcolor_Click() {
-    try {
-        platform::showColor(host_, CommonDialog1);
-        BackColor = CommonDialog1.Color.get();
-        Draw_Frame();
-    } catch (const vb::Error&) {
-    }
+    pickColorThenDraw(*this, [this](int color) { BackColor = color; });
 }
 
 } // namespace tavrin

@@ -60,7 +60,9 @@ public:
     public:
         explicit PictureProp(PictureBox* box) : box_(box) {}
         PictureProp& operator=(const PictureHandle& picture);
-        PictureProp& operator=(const PictureProp& other) { return *this = other.get(); }
+        PictureProp& operator=(const PictureProp& other) {
+            return &other == this ? *this : *this = other.get();
+        }
         PictureHandle get() const;
         operator PictureHandle() const { return get(); }
 

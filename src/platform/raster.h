@@ -89,31 +89,24 @@ inline int64_t LineSegment::minorAt(int64_t start, int64_t delta, int64_t i, int
 }
 
 template <class F> void LineSegment::forEach(const PixelRect& clip, F&& fn) const {
-    int64_t dx = static_cast<int64_t>(x2) - x1, dy = static_cast<int64_t>(y2) - y1;
-    int64_t adx = dx < 0 ? -dx : dx, ady = dy < 0 ? -dy : dy;
-    if (adx >= ady) {
-        int64_t sx = dx < 0 ? -1 : 1;
-        // Steps i whose x lies in [clip.x0, clip.x1).
-        int64_t lo = sx > 0 ? clip.x0 - x1 : x1 - (clip.x1 - 1);
-        int64_t hi = sx > 0 ? clip.x1 - 1 - x1 : x1 - clip.x0;
-        if (lo < 0) lo = 0;
-        if (hi > adx) hi = adx;
-        for (int64_t i = lo; i <= hi; ++i) {
-            int64_t x = x1 + sx * i;
-            int64_t y = minorAt(y1, dy, i, adx);
-            if (y >= clip.y0 && y < clip.y1) fn(x, y);
-        }
-    } else {
-        int64_t sy = dy < 0 ? -1 : 1;
-        int64_t lo = sy > 0 ? clip.y0 - y1 : y1 - (clip.y1 - 1);
-        int64_t hi = sy > 0 ? clip.y1 - 1 - y1 : y1 - clip.y0;
-        if (lo < 0) lo = 0;
-        if (hi > ady) hi = ady;
-        for (int64_t i = lo; i <= hi; ++i) {
-            int64_t y = y1 + sy * i;
-            int64_t x = minorAt(x1, dx, i, ady);
-            if (x >= clip.x0 && x < clip.x1) fn(x, y);
-        }
+    const int64_t dx = static_cast<int64_t>(x2) - x1, dy = static_cast<int64_t>(y2) - y1;
+    // The walk goes along the longer axis, a; b is the other one.
+    const bool alongX = (dx < 0 ? -dx : dx) >= (dy < 0 ? -dy : dy);
+    const int64_t a1 = alongX ? x1 : y1, b1 = alongX ? y1 : x1;
+    const int64_t da = alongX ? dx : dy, db = alongX ? dy : dx;
+    const int64_t aLo = alongX ? clip.x0 : clip.y0, aHi = alongX ? clip.x1 : clip.y1;
+    const int64_t bLo = alongX ? clip.y0 : clip.x0, bHi = alongX ? clip.y1 : clip.x1;
+    const int64_t n = da < 0 ? -da : da, sa = da < 0 ? -1 : 1;
+    // Steps i whose a lies in [aLo, aHi).
+    int64_t lo = sa > 0 ? aLo - a1 : a1 - (aHi - 1);
+    int64_t hi = sa > 0 ? aHi - 1 - a1 : a1 - aLo;
+    if (lo < 0) lo = 0;
+    if (hi > n) hi = n;
+    for (int64_t i = lo; i <= hi; ++i) {
+        const int64_t a = a1 + sa * i, b = minorAt(b1, db, i, n);
+        if (b < bLo || b >= bHi) continue;
+        if (alongX) fn(a, b);
+        else fn(b, a);
     }
 }
 

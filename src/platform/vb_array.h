@@ -91,13 +91,8 @@ public:
 private:
     template <class I> std::size_t offset(I i) const {
         int64_t index;
-        if constexpr (std::is_floating_point_v<I>) {
-            index = CLng(static_cast<double>(i));
-        } else if constexpr (std::is_integral_v<I>) {
-            index = static_cast<int64_t>(i);
-        } else {
-            index = CLng(static_cast<double>(i)); // a dynamic number
-        }
+        if constexpr (std::is_integral_v<I>) index = static_cast<int64_t>(i);
+        else index = CLng(static_cast<double>(i)); // a float or a dynamic number
         if (!allocated_ || index < lower_ || index > upper_) raise(SubscriptOutOfRange);
         return static_cast<std::size_t>(index - lower_);
     }
@@ -115,7 +110,7 @@ public:
     Array3(int64_t n0, int64_t n1, int64_t n2) : n0_(n0), n1_(n1), n2_(n2) {
         auto count = static_cast<std::size_t>(n0 * n1 * n2);
         memory_ = Reservation(count, sizeof(T));
-        data_.assign(count, T{});
+        ZeroedVector<T>(count).swap(data_); // 13.5 MB for Work_Buf: untouched pages cost nothing
     }
 
     template <class I, class J, class K> T& operator()(I i, J j, K k) {
@@ -141,7 +136,7 @@ private:
 
     int64_t n0_, n1_, n2_;
     Reservation memory_;
-    std::vector<T> data_;
+    ZeroedVector<T> data_;
 };
 
 } // namespace vb

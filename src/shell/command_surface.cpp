@@ -29,7 +29,7 @@ void FrmMain::buildCommandSurface() {
 
     // Menus: the level of each item says which of the items above it is its parent.
     std::vector<platform::MenuItem*> parents(3, nullptr);
-    for (const shell::MenuSpec& m : shell::menuTable()) {
+    for (const shell::MenuRow& m : shell::menuTable()) {
         platform::MenuItem& item = this->*m.item;
         item.Caption = m.caption;
         item.Shortcut = m.shortcut;
@@ -41,7 +41,7 @@ void FrmMain::buildCommandSurface() {
         if (m.handler) item.Click = [this, h = m.handler] { (this->*h)(); };
     }
 
-    for (const shell::ControlSpec& s : shell::controlTable()) {
+    for (const shell::ControlRow& s : shell::controlTable()) {
         platform::Control* c = find(s.name);
         if (!c) throw std::logic_error(std::string("no control named ") + s.name);
         if (*s.container) c->Container = find(s.container);
@@ -53,7 +53,7 @@ void FrmMain::buildCommandSurface() {
         if (s.click) c->Click = [this, h = s.click] { (this->*h)(); };
     }
 
-    for (const shell::ToolbarSpec& b : shell::toolbarTable())
+    for (const shell::ToolbarRow& b : shell::toolbarTable())
         tbToolBar.Buttons.push_back({b.key, b.toolTip, 0});
     tbToolBar.ButtonClick = [this](const std::string& key) { tbToolBar_ButtonClick(key); };
 

@@ -10,7 +10,7 @@ namespace tavrin::shell {
 
 using Handler = void (FrmMain::*)();
 
-struct MenuSpec {
+struct MenuRow {
     platform::MenuItem FrmMain::*item;
     int level;            // 0: a title of the bar, 1: its item, 2: an item of a submenu
     const char* caption;  // "-" for a separator
@@ -22,9 +22,9 @@ struct MenuSpec {
 };
 
 // The menu bar, in order, and the popup menu Pop (hidden from the bar) after it.
-const std::vector<MenuSpec>& menuTable();
+const std::vector<MenuRow>& menuTable();
 
-struct ControlSpec {
+struct ControlRow {
     const char* name;
     const char* container; // "" for the form itself
     double left, top, width, height; // twips
@@ -35,14 +35,14 @@ struct ControlSpec {
 };
 
 // The controls of the main window at their design positions, containers first.
-const std::vector<ControlSpec>& controlTable();
+const std::vector<ControlRow>& controlTable();
 
-struct ToolbarSpec {
+struct ToolbarRow {
     const char* key; // "" for a separator
     const char* toolTip;
 };
 
 // tbToolBar's buttons, positions 1 to 15.
-const std::vector<ToolbarSpec>& toolbarTable();
+const std::vector<ToolbarRow>& toolbarTable();
 
 } // namespace tavrin::shell

@@ -2,10 +2,6 @@
 
 namespace tavrin {
 
-namespace {
-constexpr int kMajor = 0, kMinor = 3, kRevision = 4;
-}
-
 FrmSplash::FrmSplash(platform::Host& host, std::function<void()> showMain)
     : Form("frmSplash"), host_(host), showMain_(std::move(showMain)) {
     Caption = "Tavrin";
@@ -28,8 +24,7 @@ FrmSplash::FrmSplash(platform::Host& host, std::function<void()> showMain)
 }
 
 void FrmSplash::Form_Load() {
-    lblVersion.Caption = "Version " + std::to_string(kMajor) + "." + std::to_string(kMinor) +
-                         "." + std::to_string(kRevision);
+    lblVersion.Caption = "Version " + std::string(kVersion);
     lblProductName.Caption = "Tavrin";
     for (const std::string& line : releaseNotes()) List1.AddItem(line);
 }

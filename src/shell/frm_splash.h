@@ -10,6 +10,14 @@
 
 namespace tavrin {
 
+// The program's version, "major.minor.revision", from the build's one statement of it.
+#define TAVRIN_TEXT(x) #x
+#define TAVRIN_VERSION_TEXT(a, b, c) TAVRIN_TEXT(a) "." TAVRIN_TEXT(b) "." TAVRIN_TEXT(c)
+inline constexpr const char* kVersion =
+    TAVRIN_VERSION_TEXT(TAVRIN_VERSION_MAJOR, TAVRIN_VERSION_MINOR, TAVRIN_VERSION_REVISION);
+#undef TAVRIN_VERSION_TEXT
+#undef TAVRIN_TEXT
+
 class FrmSplash : public platform::Form {
 public:
     // showMain: what "OK" does after the splash is unloaded (makes and shows frmMain).

@@ -9,10 +9,10 @@ constexpr bool hidden = false;
 
 // Positions inside a panel count from the panel's top left corner. The floating bars
 // stand at their design places; Form_Resize moves some of them to the window's edge.
-const std::vector<ControlSpec>& controlTable() {
+const std::vector<ControlRow>& controlTable() {
     using F = FrmMain;
     // clang-format off
-    static const std::vector<ControlSpec> table = {
+    static const std::vector<ControlRow> table = {
         // name          container    left   top    width  height caption  tool tip  visible  click
         // ---- palette ----
         {"SSPanel1",     "",          8730,  510,   3075,  4065, "", "", shown, nullptr},

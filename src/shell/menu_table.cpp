@@ -8,10 +8,10 @@ constexpr bool on = true;
 constexpr bool off = false;
 } // namespace
 
-const std::vector<MenuSpec>& menuTable() {
+const std::vector<MenuRow>& menuTable() {
     using F = FrmMain;
     // clang-format off
-    static const std::vector<MenuSpec> table = {
+    static const std::vector<MenuRow> table = {
         // item            lvl caption                              shortcut  checked visible enabled handler
         {&F::File,          0, "&File",                              "",       off, on,  on,  nullptr},
         {&F::NewSkin,       1, "&New Skin",                          "",       off, on,  on,  &F::NewSkin_Click},
@@ -115,8 +115,8 @@ const std::vector<MenuSpec>& menuTable() {
     return table;
 }
 
-const std::vector<ToolbarSpec>& toolbarTable() {
-    static const std::vector<ToolbarSpec> table = {
+const std::vector<ToolbarRow>& toolbarTable() {
+    static const std::vector<ToolbarRow> table = {
         {"New", "New Skin"},   {"Open", "Open Skin"}, {"Save", "Save Skin"},
         {"", ""},              {"Print", "Print Skin"}, {"", ""},
         {"Cut", "Cut"},        {"Copy", "Copy"},      {"Paste", "Paste"},

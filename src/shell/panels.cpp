@@ -20,6 +20,7 @@ void toggleFromMenu(platform::MenuItem& item, platform::Control& panel) {
 } // namespace
 
 void FrmMain::PALE_Click() { toggleFromMenu(PALE, SSPanel1); }
+void FrmMain::ActualPixels_Click() { toggleFromMenu(ActualPixels, SSPanel11); }
 void FrmMain::ToolBar_Click() { toggleFromMenu(ToolBar, SSPanel13); }
 void FrmMain::fil_Click() { toggleFromMenu(fil, SSPanel15); }
 

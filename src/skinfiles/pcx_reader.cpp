@@ -14,8 +14,7 @@ void FrmMain::pcxIm_Click() {
     try {
         StatusBar1.Panels(1).Text = "Select Image";
         prepareOpenCommand("*.PCX", "Load Quake 2 PCX Skin Image", "Quake 2 Skins");
-        platform::showOpen(host_, CommonDialog1);
-        File_Name = CommonDialog1.FileName;
+        askFileToOpen();
         Skin_Path = File_Name;
         host_.DoEvents();
         MousePointer = 11;

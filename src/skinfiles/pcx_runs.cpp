@@ -70,7 +70,7 @@ struct Cursor {
 inline uint64_t markerBits(const uint8_t* block) {
     uint64_t bits = 0;
 #if defined(__SSE2__)
-    for (int k = 0; k < 4; ++k) {
+    for (std::ptrdiff_t k = 0; k < 4; ++k) {
         const __m128i x = _mm_loadu_si128(reinterpret_cast<const __m128i*>(block + 16 * k));
         const auto top = static_cast<uint32_t>(_mm_movemask_epi8(x));
         const auto next = static_cast<uint32_t>(_mm_movemask_epi8(_mm_add_epi8(x, x)));

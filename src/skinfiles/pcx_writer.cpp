@@ -88,7 +88,7 @@ void appendPixels(std::vector<uint8_t>& file, const vb::Array<int16_t>& grid, in
     constexpr int64_t kRoom = 16;
     const std::size_t at = file.size();
     const auto most = static_cast<std::size_t>(2 * count + kRoom);
-    file.reserve(at + most + 3 * 256); // the palette follows
+    file.reserve(at + most + std::size_t{768}); // the palette follows
     file.resize(at + most);
     uint8_t* out = putCells(file.data() + at, in, cells);
     for (int64_t k = cells; k < count; ++k) out = putCell(out, last);

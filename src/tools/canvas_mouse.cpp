@@ -97,24 +97,17 @@ void FrmMain::Picture7_MouseDown(int16_t Button, int16_t Shift, float X, float Y
         } else if (Tool_Mode == "Line" || Tool_Mode == "Box") {
             Start_X = X;
             Start_Y = Y;
-        } else if (Tool_Mode == "Blur") {
-            convertPosition(X, Y); // then the blur brush
         } else if (Tool_Mode == "Zoom") {
             zoomStep(Button);
-        } else if (Tool_Mode == "Fill") {
-            convertPosition(X, Y); // then the fill
         } else if (Tool_Mode == "Draw") {
             convertPosition(X, Y);
             pencilAt(X, Y);
-        } else if (Tool_Mode == "Air") {
-            convertPosition(X, Y); // then the airbrush's dab
-        } else if (Tool_Mode == "dTtint") {
-            convertPosition(X, Y); // then the tint brush
         } else if (Tool_Mode == "dPaint" || Tool_Mode == "lPaint") {
             // No conversion: the brush stands where the last move left Cur_X, Cur_Y.
             paintBrushAt(X, Y);
-        } else if (Tool_Mode == "Text") {
-            convertPosition(X, Y); // then the text panel opens
+        } else if (Tool_Mode == "Blur" || Tool_Mode == "Fill" || Tool_Mode == "Air" ||
+                   Tool_Mode == "dTtint" || Tool_Mode == "Text") {
+            convertPosition(X, Y); // the tools of these words are still to come
         }
 
         if (Tool_Mode != "Zoom")
@@ -147,22 +140,13 @@ void FrmMain::Picture7_MouseMove(int16_t Button, int16_t Shift, float X, float Y
         if (Button != 1) return;
 
         // Each event paints at its own position only: a fast stroke leaves gaps.
-        if (Tool_Mode == "Line") {
-            // the rubber band of the line
-        } else if (Tool_Mode == "Box") {
-            // the rubber band of the rectangle
-        } else if (Tool_Mode == "Blur") {
-            // the blur brush
-        } else if (Tool_Mode == "Draw") {
+        if (Tool_Mode == "Draw") {
             pencilAt(X, Y);
-        } else if (Tool_Mode == "Air") {
-            // the airbrush's dab
-        } else if (Tool_Mode == "dTtint") {
-            // the tint brush
         } else if (Tool_Mode == "dPaint" || Tool_Mode == "lPaint") {
             paintBrushAt(X, Y);
-        } else {
-            return; // other words do nothing and repaint nothing
+        } else if (Tool_Mode != "Line" && Tool_Mode != "Box" && Tool_Mode != "Blur" &&
+                   Tool_Mode != "Air" && Tool_Mode != "dTtint") {
+            return; // other words do nothing and repaint nothing; these tools are to come
         }
         repaintCanvas();
     } catch (const vb::Error&) {

@@ -24,7 +24,7 @@ TEST_F(CommandSurface, EveryMenuItemComesFromTheTableOnceWithItsOwnShortcut) {
     std::set<std::string> inTable;
     std::map<std::string, std::string> shortcutOwner;
     int previousLevel = 0;
-    for (const shell::MenuSpec& m : shell::menuTable()) {
+    for (const shell::MenuRow& m : shell::menuTable()) {
         const platform::MenuItem& item = frm.*m.item;
         SCOPED_TRACE(item.name());
         EXPECT_EQ(frm.find(item.name()), &item); // the name finds the very control
