@@ -87,7 +87,7 @@ private:
     // Three lines a triangle on box, the corners times zoom; raises at the first corner
     // index that the tables don't hold.
     void drawModelLines(PictureBox& box, double zoom, int32_t color);
-    // Tri_Table and UV_Table cut down to the single record 0.
+    // A dropped model: both tables keep only record 0, so no triangle is left to draw.
     void dropModelTables();
     // The check marks of "&Wire Frame" and of the popup's item.
     void markWireShown(bool shown);

@@ -3,7 +3,7 @@
 
 namespace tavrin {
 
-// Each step stands on its own: a failing step is skipped and the next one runs.
+// Start-up never stops half way: every step is guarded on its own.
 void FrmMain::Form_Load() {
     vb::resume([&] { StatusBar1.Panels(1).Text = "Ready..."; });
     vb::resume([&] { WindowState = 2; });

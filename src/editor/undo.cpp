@@ -25,7 +25,8 @@ void FrmMain::takeGridSnapshot() {
     copyCells(Skin_Grid, Undo_Grid);
 }
 
-// The snapshot stays, so a second undo gives the same state again; there is no redo.
+// Undo doesn't use the snapshot up: repeating it restores the same state, and nothing
+// redoes.
 // Right after a load Undo_Grid is all zeros and Picture6 holds the picture of before the
 // load, and that is what an undo gives back until the first press.
 void FrmMain::Undo_Click() {

@@ -22,8 +22,8 @@ void FrmMain::frmCenter() {
     host_.DoEvents();
 }
 
-// Counts the reads up to and including the first one outside the picture, from 1: the
-// result is the number of columns and rows.
+// Starting at 1 and counting the read that fails too makes each count the picture's size
+// in pixels.
 void FrmMain::Calc_Pixels() {
     try {
         for (double x = 1;; ++x) {
@@ -109,7 +109,7 @@ void FrmMain::Form_Resize() {
 
 void FrmMain::Form_GotFocus() { ri_Click(); }
 
-// The pan buttons move the canvas, not the picture in it, and know no bounds.
+// Panning moves the canvas control itself; nothing keeps it on the window.
 void FrmMain::SSCommand21_Click() {
     SSPanel2.Visible = false;
     Pan_Step = 500;

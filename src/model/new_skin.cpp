@@ -1,6 +1,6 @@
-// A new skin from a model: a black picture of the size the model's header asks for, the
-// triangles on it in white, and a grid of 0 and 15 taken back from that picture. The
-// model itself is dropped at the end; its lines live on as pixels.
+// A new skin from a model. The mesh is drawn into picture1 and the grid is read back from
+// those pixels (lit or not), so the template is whatever the drawing produced; the model
+// is then dropped and only its lines remain, as paint.
 #include "editor/frm_main.h"
 #include "platform/vb_numeric.h"
 
@@ -26,8 +26,8 @@ void FrmMain::NewSkin_Click() {
         Wire_Loaded = 0;
         markWireShown(false);
     } catch (const vb::Error&) {
-        // Wire_Loaded, the menu marks, Skin_Grid and the hidden boxes stay as the failure
-        // left them.
+        // No tidying up: the wire state, its marks, the grid and the hidden boxes stay
+        // half made.
         dropModelTables();
         host_.MsgBox("There was a problem loading the file. Check the filename and/or format.",
                      platform::kStyleOk);

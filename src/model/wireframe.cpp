@@ -1,6 +1,6 @@
-// The model's mesh laid over the canvas. It lives on Picture7 alone: never in picture1,
-// never in Skin_Grid, never saved, and every repaint of the canvas wipes it, so it is
-// drawn again at the end of each mouse-up while it is shown.
+// The mesh as an overlay. It is drawn on the canvas's display list only, so painting
+// and saving never see it; the price is that any repaint loses it, which is why the
+// mouse-up draws it again.
 #include "editor/frm_main.h"
 #include "platform/vb_numeric.h"
 
@@ -89,8 +89,8 @@ void FrmMain::UCW_Click() {
 
 namespace {
 
-// Both colour commands draw the lines even while the overlay is hidden: they stand until
-// the next repaint and the menu mark stays off. That is meant.
+// Meant: the lines are drawn whether or not the overlay is on, so a hidden one shows
+// until the next repaint while its menu mark stays off.
 template <class Take> void pickColorThenDraw(FrmMain& frm, Take take) {
     try {
         platform::showColor(frm.host(), frm.CommonDialog1);
@@ -106,7 +106,7 @@ void FrmMain::wFc_Click() {
     pickColorThenDraw(*this, [this](int color) { Wire_Color = color; });
 }
 
-// The window's colour round the canvas; nothing to do with the skin or the palette.
+// Only the window's background changes; skin and palette stay as they are.
 void FrmMain::bcolor_Click() {
     pickColorThenDraw(*this, [this](int color) { BackColor = color; });
 }

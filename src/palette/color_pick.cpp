@@ -1,6 +1,6 @@
-// Picking the current colour: from a pixel of the palette picture, or of the canvas with
-// the eye-dropper. Either way the colour is snapped to the palette, the marker moves to
-// its cell and the numbers show. The palette's right button also flips the colour mask.
+// Choosing the current colour from the palette picture or, with the eye-dropper, from
+// the canvas. Both end the same way (snapped to the palette, marker moved, numbers
+// shown); the palette's right button doubles as the colour mask switch.
 #include "editor/frm_main.h"
 #include "platform/vb_numeric.h"
 
@@ -48,9 +48,9 @@ void FrmMain::Get_Next_Color() {
     }
 }
 
-// The marker is the cell's edge drawn in XOR white: drawing it twice at one place takes
-// it away, so the old one goes before the new one comes. Record 0 takes no part in the
-// match, so a click on its cell marks the nearest other record's cell. Meant.
+// The marker is an XOR outline, so drawing it again where it stands erases it: the old
+// one is redrawn first. Meant: record 0 never matches, so its cell is never marked; a
+// click there marks the nearest other colour's cell.
 void FrmMain::markPickedColor() {
     Picture2.DrawMode = platform::kXorPen;
     for (int n = 1; n <= 256; ++n) {

@@ -1,6 +1,6 @@
 #pragma once
-// A raw palette file (three bytes a colour, red first; also the last 768 bytes of a PCX
-// skin) as a function of its bytes: the colours the reader takes, in order.
+// Raw palettes (RGB byte triples, as in Quake2.PAL, ACT tables and a PCX skin's tail)
+// decoded from bytes: the colours the reader takes, in order.
 #include "platform/byte_window.h"
 
 #include <cstdint>

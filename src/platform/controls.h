@@ -176,14 +176,15 @@ public:
     std::function<void(const std::string& key)> ButtonClick;
 };
 
-// The one common dialog of the window: a property stays as the last command left it.
+// The window has one shared dialog control, so whatever a command sets on it is still
+// there for the next command.
 class CommonDialog : public Control {
 public:
     CommonDialog(Form* form, std::string name)
         : Control(form, std::move(name), ControlKind::CommonDialog) {}
     Prop<std::string> FileName{this, "FileName"};
     Prop<std::string> DialogTitle{this, "DialogTitle"};
-    Prop<std::string> KindText{this, "KindText"}; // "Quake 2 Skins": nothing reads it back
+    Prop<std::string> KindText{this, "KindText"}; // the kind of file named in the filter
     Prop<std::string> Pattern{this, "Pattern"};   // "*.PCX"
     Prop<int> Color{this, "Color", 0};
     Prop<int> Flags{this, "Flags", 0};

@@ -39,8 +39,8 @@ public:
     };
     PictureBox(Form* form, std::string name, Design design);
 
-    // ScaleWidth / ScaleHeight: the inner size in the box's scale. Assigning one gives
-    // the box a scale of the caller's own.
+    // ScaleWidth / ScaleHeight: the inner size in the box's units. Writing one switches
+    // the box to user units of that extent.
     class ScaleProp : public PropBase {
     public:
         ScaleProp(PictureBox* box, const char* name, bool across)

@@ -1,7 +1,7 @@
 #pragma once
-// A dynamic number or value: holds whatever kind was last assigned to it. Unset, it
-// counts as 0 in arithmetic and as the empty text next to a text. Arithmetic goes
-// through double, so it widens instead of overflowing.
+// A dynamic number or value: it keeps the kind of whatever was stored last. An unset one
+// reads as 0 or as "" as the context needs; sums and products are done in double, so
+// they widen where a fixed-size integer would overflow.
 #include <cstdint>
 #include <string>
 

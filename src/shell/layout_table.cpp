@@ -62,7 +62,7 @@ const std::vector<ControlRow>& controlTable() {
         {"SSCommand34",  "SSPanel13", 2400,  390,   435,   405,  "", "", hidden, nullptr},
         {"SSCommand35",  "SSPanel13", 2400,  810,   435,   405,  "", "", hidden, nullptr},
         {"SSPanel3",     "SSPanel13", 195,   2535,  1785,  285,  "Zoom", "", shown, nullptr},
-        // The brush kinds, placed next to the tool bar when the paint brush is chosen.
+        // The brush kinds panel: hidden until the paint brush asks for it.
         {"SSPanel2",     "",          9915,  5220,  780,   750,  "", "", hidden, nullptr},
         {"SSCommand30",  "SSPanel2",  15,    15,    375,   360,  "Solid", "", shown, &F::SSCommand30_Click},
         {"SSCommand31",  "SSPanel2",  390,   15,    375,   360,  "Dark", "", shown, &F::SSCommand31_Click},

@@ -3,7 +3,7 @@
 
 namespace tavrin {
 
-// A failing statement is skipped and the next one runs.
+// Guarded as one statement: a failure ends the click, nothing is shown.
 void FrmMain::tbToolBar_ButtonClick(const std::string& Key) {
     vb::resume([&] {
         if (Key == "New") NewSkin_Click();

@@ -1,7 +1,6 @@
 #pragma once
-// A PCX file's bytes as the reader sees them: the header's size fields, the run data
-// between the header and the palette tail, and the header itself for the next save. The
-// runs are decoded by skinfiles/pcx_runs.h.
+// Where things lie in a PCX file's bytes: the size fields, the run data and the 128
+// header bytes kept for saving. Decoding the runs is skinfiles/pcx_runs.h's job.
 #include "skinfiles/pcx_runs.h"
 
 #include <cstdint>

@@ -1,6 +1,6 @@
-// Opening a PCX skin. The reader trusts the file: it takes the width and height from
-// the header, decodes everything between the header and the palette tail, and goes on
-// four rows past the declared height, which the zeros behind the data fill.
+// Opening a PCX skin. Nothing in the file is validated; the sizes are believed, and
+// decoding runs four rows past the declared height (zeros fill them: meant, as the
+// saved file keeps those rows).
 #include "editor/frm_main.h"
 #include "platform/vb_memory.h"
 #include "platform/vb_numeric.h"
@@ -78,7 +78,7 @@ void FrmMain::Get_PCX() {
             PCX_Header(static_cast<int>(k + 1)) = layout.header[k];
         Files.Close(1);
     } catch (const vb::Error&) {
-        // Silent: file 1 stays open until the next command closes every file.
+        // Silent, and the file stays open: the next command that closes all files closes it.
     }
 }
 

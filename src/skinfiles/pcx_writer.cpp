@@ -1,5 +1,6 @@
-// Saving the skin as a PCX version 5 file, from the header, the grid and the palette
-// only. Every pixel stands alone; no palette marker byte precedes the palette.
+// Saving. The file is made from the grid alone (never from what the screen shows), one
+// token per pixel with no run packing, and meant: the palette follows the pixels with
+// no marker byte before it.
 #include "editor/frm_main.h"
 #include "platform/vb_memory.h"
 #include "platform/vb_numeric.h"
@@ -121,7 +122,7 @@ void FrmMain::ex_Click() {
     const std::string chosen = CommonDialog1.FileName;
     MousePointer = 11;
 
-    // From here a failing step is skipped and the next one runs; nothing is reported.
+    // Each step below is guarded on its own; a failure skips it without a word.
     std::string target;
     vb::resume([&] {
         Files.CloseAll();

@@ -49,8 +49,8 @@ bool FrmMain::pressNearCanvasEdge(float X, float Y) const {
            Picture7.Point(X, Y + 3) == -1;
 }
 
-// The canvas moves under the pointer, so the point grabbed stays under it and X comes
-// back to Pan_X: the press's position is kept, never updated.
+// Pan_X, Pan_Y stay at the press: after the canvas has moved by the difference, the
+// pointer is over the grabbed point again, at the same canvas coordinates.
 void FrmMain::panCanvas(float X, float Y) {
     if (Pan_X == static_cast<double>(X) && Pan_Y == static_cast<double>(Y)) return;
     Picture7.Left += 15 * (X - Pan_X.num()); // the control's position is in twips
@@ -86,8 +86,8 @@ void FrmMain::Picture7_MouseDown(int16_t Button, int16_t Shift, float X, float Y
         }
         Picture6.Picture = picture1.Image(); // shares the raster; nothing is copied here
         workOutPaintColor();
-        // A press within three canvas pixels of the edge does nothing more, but the
-        // snapshot above has been taken all the same.
+        // Presses close to the edge stop here, after the snapshot: an undo then gives
+        // back the state before this press.
         if (pressNearCanvasEdge(X, Y)) return;
 
         if (Tool_Mode == "Mask") {
@@ -139,7 +139,7 @@ void FrmMain::Picture7_MouseMove(int16_t Button, int16_t Shift, float X, float Y
         Text4.Refresh();
         if (Button != 1) return;
 
-        // Each event paints at its own position only: a fast stroke leaves gaps.
+        // No interpolation between events: a fast stroke leaves gaps. Meant.
         if (Tool_Mode == "Draw") {
             pencilAt(X, Y);
         } else if (Tool_Mode == "dPaint" || Tool_Mode == "lPaint") {
@@ -153,8 +153,7 @@ void FrmMain::Picture7_MouseMove(int16_t Button, int16_t Shift, float X, float Y
     }
 }
 
-// Looks at neither the button nor the position. Each statement stands on its own: one
-// that fails is skipped and the next runs.
+// The button and position don't matter here; every statement is guarded on its own.
 void FrmMain::Picture7_MouseUp(int16_t, int16_t, float, float) {
     vb::resume([&] { Check_Color = vb::RGB(vb::CInt(Cur_R), vb::CInt(Cur_G), vb::CInt(Cur_B)); });
     vb::resume([&] { Temp_Color_Check(); });

@@ -1,6 +1,6 @@
 // The pencil ("Draw"), the paint brush ("dPaint", "lPaint") and the brush size pair.
-// Both tools run inside the canvas frame, which has converted the pointer and worked out
-// Paint_Color and Color_Index; each pixel goes to picture1 first, then to Skin_Grid.
+// The canvas frame hands them the skin pixel and the snapped colour; every pixel is
+// written to the picture and then to the grid, which keeps the two in step.
 #include "editor/frm_main.h"
 #include "platform/vb_numeric.h"
 
@@ -15,8 +15,8 @@ void FrmMain::storeSkinPixel(double x, double y) {
     cell = vb::CInt(Color_Index);
 }
 
-// The mask test reads the canvas under the pointer. While the mask is off Mask_Color is
-// 0.1, which no colour equals.
+// The mask is tested against the canvas pixel under the pointer; an off mask (0.1)
+// never matches.
 void FrmMain::pencilAt(float X, float Y) {
     if (Mask_Color != Picture7.Point(X, Y)) {
         picture1.PSet(Cur_X, Cur_Y, Paint_Color);
@@ -67,8 +67,8 @@ void FrmMain::setBrushSize(bool ninePixels) {
     Pop1.Checked = !ninePixels;
 }
 
-// Each item flips the pair from its own check mark, so choosing the size that is
-// already set switches to the other one. Meant.
+// Meant: each item decides from its own mark, so choosing the size already in force
+// switches to the other size.
 void FrmMain::p1_Click() {
     setBrushSize(p1.Checked);
 }

@@ -32,9 +32,8 @@ Variant scaleOf(double canvasPixels, int16_t skinPixels) {
 
 } // namespace
 
-// There is no limit either way. Zooming in ends where the canvas can't grow (the size
-// assignment raises, with Zoom_Factor already doubled); zooming out ends at the press's
-// edge test once the canvas is less than seven pixels across.
+// No limits are coded. In: the size assignment fails once the canvas can't grow, after
+// Zoom_Factor was doubled. Out: a canvas under seven pixels fails the press's edge test.
 void FrmMain::zoomStep(int16_t Button) {
     if (Button == 1) {
         Zoom_Factor = twice(Zoom_Factor);
@@ -48,8 +47,8 @@ void FrmMain::zoomStep(int16_t Button) {
     }
     if (Button == 1 || Button == 2) {
         Picture7.Refresh();
-        // From the canvas's real size, not from Zoom_Factor: where halving doesn't come
-        // out at a whole pixel the scale follows the canvas, and may differ across and down.
+        // Taken from the canvas's whole-pixel size rather than Zoom_Factor, so odd sizes
+        // give a scale that follows the canvas (and can differ across and down).
         Scale_X = scaleOf(Picture7.ScaleWidth, Pixel_Width);
         Scale_Y = scaleOf(Picture7.ScaleHeight, Pixel_Height);
     }
