@@ -25,13 +25,15 @@ std::vector<uint8_t> encodeBigSkin(const std::vector<uint8_t>& pixels) {
     const int w = kBig, h = kBig;
     std::vector<uint8_t> out(128, 0);
     out[0] = 10, out[1] = 5, out[2] = 1, out[3] = 8;
-    out[8] = (w - 1) & 0xFF, out[9] = (w - 1) >> 8, out[10] = (h - 1) & 0xFF, out[11] = (h - 1) >> 8;
+    out[8] = (w - 1) & 0xFF, out[9] = (w - 1) >> 8, out[10] = (h - 1) & 0xFF,
+    out[11] = (h - 1) >> 8;
     out[65] = 1, out[66] = w & 0xFF, out[67] = w >> 8, out[68] = 1;
     for (int y = 0; y < h; ++y) {
         const uint8_t* row = pixels.data() + static_cast<std::size_t>(y) * w;
         for (int i = 0; i < w;) {
             int n = 1;
-            while (i + n < w && row[i + n] == row[i] && n < 63) ++n;
+            while (i + n < w && row[i + n] == row[i] && n < 63)
+                ++n;
             if (n > 1 || row[i] >= 192) out.push_back(static_cast<uint8_t>(192 + n));
             out.push_back(row[i]);
             i += n;
@@ -66,7 +68,8 @@ std::vector<uint8_t> bigSkinPixels() {
     for (int y = 0; y < kBig; ++y)
         for (int x = 0; x < kBig; ++x)
             pixels[static_cast<std::size_t>(y) * kBig + x] =
-                rng() % 8 == 0 ? static_cast<uint8_t>(rng() % 256) : static_cast<uint8_t>(((x / 24) * 7 + (y / 32) * 13) % 256);
+                rng() % 8 == 0 ? static_cast<uint8_t>(rng() % 256)
+                               : static_cast<uint8_t>(((x / 24) * 7 + (y / 32) * 13) % 256);
     return pixels;
 }
 
@@ -99,10 +102,13 @@ void Editor::choosePencil() { frm.pEdit_Click(); }
 
 const std::string& bigSkinPath() {
     static const std::string path = [] {
-        std::string p = (fs::temp_directory_path() / ("tavrin-bench-skin-" + std::to_string(getpid()) + ".pcx")).string();
+        std::string p =
+            (fs::temp_directory_path() / ("tavrin-bench-skin-" + std::to_string(getpid()) + ".pcx"))
+                .string();
         std::vector<uint8_t> bytes = encodeBigSkin(bigSkinPixels());
-        std::ofstream(p, std::ios::binary).write(reinterpret_cast<const char*>(bytes.data()),
-                                                 static_cast<std::streamsize>(bytes.size()));
+        std::ofstream(p, std::ios::binary)
+            .write(reinterpret_cast<const char*>(bytes.data()),
+                   static_cast<std::streamsize>(bytes.size()));
         return p;
     }();
     return path;
@@ -119,7 +125,8 @@ std::vector<int32_t> skinColours() {
     std::vector<int32_t> colours;
     const int w = e.frm.picture1.innerWidth(), h = e.frm.picture1.innerHeight();
     for (int y = 0; y < h; ++y)
-        for (int x = 0; x < w; ++x) colours.push_back(e.frm.picture1.Point(x, y));
+        for (int x = 0; x < w; ++x)
+            colours.push_back(e.frm.picture1.Point(x, y));
     return colours;
 }
 

@@ -56,8 +56,10 @@ void paintRegion(benchmark::State& state) {
     QApplication::processEvents();
     const QRect exposed(2000, 3000, kExposedW, kExposedH);
     const int before = counter.paints;
-    for (auto _ : state) widget.repaint(exposed);
-    if (counter.paints - before < static_cast<int>(state.iterations())) state.SkipWithError("no paint");
+    for (auto _ : state)
+        widget.repaint(exposed);
+    if (counter.paints - before < static_cast<int>(state.iterations()))
+        state.SkipWithError("no paint");
 }
 BENCHMARK(paintRegion)->Name("canvas_region/path")->Unit(benchmark::kMicrosecond);
 

@@ -28,7 +28,8 @@ void readSkin(benchmark::State& state) {
     Editor e;
     e.frm.File_Name = bigSkinPath();
     e.frm.Get_PCX();
-    for (auto _ : state) e.frm.Get_PCX();
+    for (auto _ : state)
+        e.frm.Get_PCX();
 }
 BENCHMARK(readSkin)->Name("Get_PCX/path")->Unit(benchmark::kMicrosecond);
 

@@ -49,7 +49,9 @@ struct Stroke {
     bool atZoom8() const { return e.frm.Zoom_Factor.num() == 8; }
     // The i-th position of a stroke wandering over the visible part of the canvas, a new
     // skin pixel each time.
-    static float at(int64_t i, int extent) { return static_cast<float>(12 + (i * 8) % (extent - 24)); }
+    static float at(int64_t i, int extent) {
+        return static_cast<float>(12 + (i * 8) % (extent - 24));
+    }
 };
 
 void strokeMove(benchmark::State& state) {
@@ -62,7 +64,8 @@ void strokeMove(benchmark::State& state) {
         ++i;
     }
     const FrmMain& f = s.e.frm;
-    if (f.picture1.Point(f.Cur_X, f.Cur_Y) != f.Paint_Color) state.SkipWithError("the pencil painted nothing");
+    if (f.picture1.Point(f.Cur_X, f.Cur_Y) != f.Paint_Color)
+        state.SkipWithError("the pencil painted nothing");
 }
 BENCHMARK(strokeMove)->Name("stroke_move/path");
 

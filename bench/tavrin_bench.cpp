@@ -2,8 +2,8 @@
 // ratio of the two is what is judged, so the numbers hold on any machine.
 //   tavrin-bench [--check MARGIN] [benchmark options]
 // --check fails (exit 1) when a ratio misses its budget by more than MARGIN times.
-#include "bench_support.h"
 #include "bench_budgets.h"
+#include "bench_support.h"
 
 #include <benchmark/benchmark.h>
 
@@ -22,7 +22,8 @@ public:
     void ReportRuns(const std::vector<Run>& runs) override {
         for (const Run& r : runs)
             if (r.run_type == Run::RT_Iteration && !r.error_occurred)
-                seconds[r.benchmark_name()] = r.cpu_accumulated_time / static_cast<double>(r.iterations);
+                seconds[r.benchmark_name()] =
+                    r.cpu_accumulated_time / static_cast<double>(r.iterations);
         ConsoleReporter::ReportRuns(runs);
     }
 };
@@ -33,8 +34,10 @@ int main(int argc, char** argv) {
     double margin = 0;
     std::vector<char*> args;
     for (int i = 0; i < argc; ++i) {
-        if (std::strcmp(argv[i], "--check") == 0 && i + 1 < argc) margin = std::atof(argv[++i]);
-        else args.push_back(argv[i]);
+        if (std::strcmp(argv[i], "--check") == 0 && i + 1 < argc)
+            margin = std::atof(argv[++i]);
+        else
+            args.push_back(argv[i]);
     }
     int count = static_cast<int>(args.size());
     benchmark::Initialize(&count, args.data());
@@ -48,7 +51,8 @@ int main(int argc, char** argv) {
         if (path == collector.seconds.end() || base == collector.seconds.end()) continue;
         const double ratio = b.atLeast ? base->second / path->second : path->second / base->second;
         const bool met = b.atLeast ? ratio >= b.budget : ratio <= b.budget;
-        const bool failed = margin > 0 && (b.atLeast ? ratio * margin < b.budget : ratio > b.budget * margin);
+        const bool failed =
+            margin > 0 && (b.atLeast ? ratio * margin < b.budget : ratio > b.budget * margin);
         std::printf("%-28s %12.4g %s %10.4g %s\n", b.name, ratio, b.atLeast ? ">=" : "<=", b.budget,
                     met ? "met" : (failed ? "MISSED" : "missed (within margin)"));
         if (failed) ok = false;

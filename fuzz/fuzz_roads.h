@@ -44,7 +44,7 @@ inline const Target* const kTargets[] = {&kPcx, &kPal, &kMd2Frame, &kMd2Import};
 // host that has nothing queued or recorded. Returns what went wrong: a message the
 // command doesn't show for a bad file, or an editor the input left unable to take the
 // good file. Empty when nothing did.
-std::string replay(FrmMain& frm, platform::ScriptedHost& host, const Target& target, const Input& input,
-                   const std::string& dataFolder);
+std::string replay(FrmMain& frm, platform::ScriptedHost& host, const Target& target,
+                   const Input& input, const std::string& dataFolder);
 
 } // namespace tavrin::fuzz

@@ -23,7 +23,9 @@ struct Editor {
     platform::ScriptedHost host;
     FrmMain frm;
     std::string file; // the path each input is written to
-    Editor() : host(workFolder()), frm(host), file(host.AppPath() + "/input.bin") { frm.Form_Load(); }
+    Editor() : host(workFolder()), frm(host), file(host.AppPath() + "/input.bin") {
+        frm.Form_Load();
+    }
 };
 
 } // namespace
@@ -37,7 +39,8 @@ void run(const Target& target, const uint8_t* data, std::size_t size) {
     // A file the last input's road left open would only make the next one differ from
     // a replay of it alone.
     e->frm.Files.CloseAll();
-    const std::string fault = replay(e->frm, e->host, target, Input{e->file, data, size}, TAVRIN_TEST_DATA);
+    const std::string fault =
+        replay(e->frm, e->host, target, Input{e->file, data, size}, TAVRIN_TEST_DATA);
     if (!fault.empty()) {
         std::fprintf(stderr, "fuzz_%s: the input %s\n", target.name, fault.c_str());
         std::abort();

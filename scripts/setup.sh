@@ -1,9 +1,11 @@
 #!/bin/sh
 # Installs what building and testing Tavrin needs, on Debian or Ubuntu, when missing.
 set -eu
-# clang and libclang-rt-dev (libFuzzer for the default clang) build the fuzz targets.
+# clang and libclang-rt-dev (libFuzzer for the default clang) build the fuzz targets;
+# clang-format and clang-tidy are the style and static checks.
 packages="cmake g++ make qt6-base-dev qt6-qpa-plugins libgl-dev libgtest-dev libgmock-dev
-          libbenchmark-dev xvfb xdotool x11-apps imagemagick time python3 clang libclang-rt-dev"
+          libbenchmark-dev xvfb xdotool x11-apps imagemagick time python3 clang libclang-rt-dev
+          clang-format clang-tidy git"
 missing=""
 for p in $packages; do
     dpkg-query -W -f='${Status}' "$p" 2>/dev/null | grep -q "ok installed" || missing="$missing $p"

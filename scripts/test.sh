@@ -1,11 +1,13 @@
 #!/bin/sh
-# Sets up, builds and runs every test: the core and Qt tests, the end-to-end tests under
-# Xvfb, the speed budgets and the peak memory, the core tests again under AddressSanitizer
-# and UndefinedBehaviorSanitizer, and every file reader fuzzed for a while (scripts/fuzz.sh; TAVRIN_FUZZ_SECONDS per target).
+# Sets up, builds and runs every test: the style check, the core and Qt tests, the
+# end-to-end tests under Xvfb, the speed budgets and the peak memory, the core tests again
+# under AddressSanitizer and UndefinedBehaviorSanitizer, clang-tidy, and every file reader
+# fuzzed for a while (scripts/fuzz.sh; TAVRIN_FUZZ_SECONDS per target).
 set -eu
 cd "$(dirname "$0")/.."
 scripts/setup.sh
 jobs="$(nproc)"
+scripts/lint.sh format
 
 cmake -S . -B build-test -DCMAKE_BUILD_TYPE=RelWithDebInfo -DTAVRIN_WERROR=ON >/dev/null
 cmake --build build-test -j"$jobs"
@@ -22,5 +24,11 @@ cmake --build build-asan -j"$jobs"
 (cd build-asan && ASAN_OPTIONS=detect_leaks=1 UBSAN_OPTIONS=print_stacktrace=1 \
      ctest --output-on-failure -j"$jobs")
 
-scripts/fuzz.sh
+# clang-tidy runs beside the fuzzers, which keep one processor busy at a time.
+TAVRIN_TIDY_JOBS=1 scripts/lint.sh tidy build-test &
+tidy=$!
+fuzz=0
+scripts/fuzz.sh || fuzz=$?
+wait "$tidy"
+[ "$fuzz" -eq 0 ]
 echo "All tests passed."

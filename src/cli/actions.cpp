@@ -16,14 +16,14 @@ void clickCommand(Session& s, Args& a) {
     std::string path = a.word("a control");
     a.end();
     Target t = resolve(s, path);
-    if (auto* bar = dynamic_cast<platform::Toolbar*>(t.control); bar && !t.rest.empty()) {
+    if (auto* bar = dynamic_cast<platform::Toolbar*>(&t.control); bar && !t.rest.empty()) {
         if (!bar->find(t.rest)) throw ScriptError(bar->name() + " has no button " + t.rest);
         std::string key = t.rest;
         fire(bar->ButtonClick, key);
         return;
     }
     requireNothingAfter(t, path);
-    fire(t.control->Click);
+    fire(t.control.Click);
 }
 
 void callCommand(Session& s, Args& a) {
@@ -49,9 +49,12 @@ void keyCommand(Session& s, Args& a) {
     a.end();
     fire(box.KeyPress, key);
     std::string text = box.Text;
-    if (key == 8 && !text.empty()) text.pop_back();
-    else if (key >= 32 && key <= 255) text += static_cast<char>(key);
-    else return;
+    if (key == 8 && !text.empty())
+        text.pop_back();
+    else if (key >= 32 && key <= 255)
+        text += static_cast<char>(key);
+    else
+        return;
     box.Text = text;
 }
 
@@ -61,7 +64,8 @@ void sliderCommand(Session& s, Args& a) {
     auto value = static_cast<int>(a.integer("a slider value", INT32_MIN, INT32_MAX));
     a.end();
     platform::Slider& slider = s.mainForm().Slider1;
-    value = std::clamp(value, std::min<int>(slider.Min, slider.Max), std::max<int>(slider.Min, slider.Max));
+    value = std::clamp(value, std::min<int>(slider.Min, slider.Max),
+                       std::max<int>(slider.Min, slider.Max));
     if (value == slider.Value) return;
     slider.Value = value;
     fire(slider.Change);

@@ -41,7 +41,8 @@ std::optional<platform::ScriptedHost::FontAnswer> fontAnswer(Args& a) {
 
 void answerCommand(Session& s, Args& a) {
     platform::ScriptedHost& host = s.host();
-    std::string kind = a.word("an answer kind", {"open", "save", "msgbox", "color", "font", "printer"});
+    std::string kind =
+        a.word("an answer kind", {"open", "save", "msgbox", "color", "font", "printer"});
     if (kind == "open") {
         auto path = pathAnswer(a);
         a.end();
@@ -53,7 +54,9 @@ void answerCommand(Session& s, Args& a) {
     } else if (kind == "msgbox") {
         std::string w = a.word("a message box answer", {"yes", "no", "ok"});
         a.end();
-        host.answerMsgBox(w == "yes" ? platform::kMsgYes : w == "no" ? platform::kMsgNo : platform::kMsgOk);
+        host.answerMsgBox(w == "yes"  ? platform::kMsgYes
+                          : w == "no" ? platform::kMsgNo
+                                      : platform::kMsgOk);
     } else if (kind == "color") {
         auto color = colorAnswer(a);
         a.end();

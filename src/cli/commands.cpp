@@ -14,21 +14,11 @@ struct Command {
 
 const std::vector<Command>& commands() {
     static const std::vector<Command> table = {
-        {"answer", answerCommand},
-        {"click", clickCommand},
-        {"call", callCommand},
-        {"mouse", mouseCommand},
-        {"palette", paletteCommand},
-        {"type", typeCommand},
-        {"key", keyCommand},
-        {"slider", sliderCommand},
-        {"resize", resizeCommand},
-        {"grip", gripCommand},
-        {"drop", dropCommand},
-        {"set", setCommand},
-        {"print", printCommand},
-        {"bounds", boundsCommand},
-        {"dump", dumpCommand},
+        {"answer", answerCommand}, {"click", clickCommand},     {"call", callCommand},
+        {"mouse", mouseCommand},   {"palette", paletteCommand}, {"type", typeCommand},
+        {"key", keyCommand},       {"slider", sliderCommand},   {"resize", resizeCommand},
+        {"grip", gripCommand},     {"drop", dropCommand},       {"set", setCommand},
+        {"print", printCommand},   {"bounds", boundsCommand},   {"dump", dumpCommand},
     };
     return table;
 }

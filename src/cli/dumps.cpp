@@ -59,8 +59,10 @@ void dumpPicture(Session& s, Args& a) {
 
 void dumpCommand(Session& s, Args& a) {
     std::string what = a.word("what to dump", {"grid", "picture"});
-    if (what == "grid") dumpGrid(s, a);
-    else dumpPicture(s, a);
+    if (what == "grid")
+        dumpGrid(s, a);
+    else
+        dumpPicture(s, a);
 }
 
 } // namespace tavrin::cli

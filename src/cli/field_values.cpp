@@ -10,7 +10,9 @@ namespace {
 
 std::string n(int64_t v) { return std::to_string(v); }
 
-bool isHex(const Token& t) { return t.text.size() > 2 && t.text[0] == '0' && (t.text[1] == 'x' || t.text[1] == 'X'); }
+bool isHex(const Token& t) {
+    return t.text.size() > 2 && t.text[0] == '0' && (t.text[1] == 'x' || t.text[1] == 'X');
+}
 
 // A whole number that fits T; hex may use T's whole width.
 template <class T> T wholeNumber(const Token& t) {
@@ -70,9 +72,12 @@ void assign(vb::Variant& field, const Token& t) {
         field = vb::Variant(t.text == "True");
     } else if (auto whole = parseInteger(t)) {
         // Hex is a packed colour or a bit pattern: 32 bits, 0xFFFFFFFF being -1.
-        if (isHex(t)) field = vb::Variant(static_cast<int>(static_cast<uint32_t>(*whole)));
-        else if (*whole >= INT32_MIN && *whole <= INT32_MAX) field = vb::Variant(static_cast<int>(*whole));
-        else field = vb::Variant(static_cast<double>(*whole));
+        if (isHex(t))
+            field = vb::Variant(static_cast<int>(static_cast<uint32_t>(*whole)));
+        else if (*whole >= INT32_MIN && *whole <= INT32_MAX)
+            field = vb::Variant(static_cast<int>(*whole));
+        else
+            field = vb::Variant(static_cast<double>(*whole));
     } else if (auto number = parseNumber(t)) {
         field = vb::Variant(*number);
     } else {

@@ -27,7 +27,7 @@ std::string valueText(const MaskRecord& r);
 void assign(int16_t& field, const Token& t);
 void assign(int32_t& field, const Token& t);
 void assign(uint8_t& field, const Token& t);
-void assign(bool& field, const Token& t); // True or False
+void assign(bool& field, const Token& t);        // True or False
 void assign(std::string& field, const Token& t); // any token, quoted or bare
 // A quoted token is a text; bare: Empty, True, False or a number, which keeps the
 // kind a literal of it would have (16-bit, 32-bit, or a double).

@@ -12,21 +12,25 @@ namespace tavrin::cli {
 namespace {
 
 template <class T>
-concept Settable = requires(T& v, const Token& t) { assign(v, t); };
+concept Settable = requires(T& v, const Token& t) {
+    assign(v, t);
+};
 
 std::string range(int64_t lower, int64_t upper) {
     return std::to_string(lower) + ".." + std::to_string(upper);
 }
 
 template <class T> Field field(const char* name, T FrmMain::*member) {
-    Field f{name, 0, [member](FrmMain& frm, const Index&) { return valueText(frm.*member); }, {}, {}};
+    Field f{
+        name, 0, [member](FrmMain& frm, const Index&) { return valueText(frm.*member); }, {}, {}};
     if constexpr (Settable<T>)
         f.set = [member](FrmMain& frm, const Index&, const Token& t) { assign(frm.*member, t); };
     return f;
 }
 
 template <class T> Field field(const char* name, vb::Array<T> FrmMain::*member) {
-    Field f{name, 1,
+    Field f{name,
+            1,
             [member](FrmMain& frm, const Index& i) { return valueText((frm.*member)(i[0])); },
             {},
             [member](FrmMain& frm) {
@@ -34,19 +38,24 @@ template <class T> Field field(const char* name, vb::Array<T> FrmMain::*member) 
                 return a.allocated() ? range(a.LBound(), a.UBound()) : std::string("unallocated");
             }};
     if constexpr (Settable<T>)
-        f.set = [member](FrmMain& frm, const Index& i, const Token& t) { assign((frm.*member)(i[0]), t); };
+        f.set = [member](FrmMain& frm, const Index& i, const Token& t) {
+            assign((frm.*member)(i[0]), t);
+        };
     return f;
 }
 
 template <class T> Field field(const char* name, vb::Array3<T> FrmMain::*member) {
     return {name, 3,
-            [member](FrmMain& frm, const Index& i) { return valueText((frm.*member)(i[0], i[1], i[2])); },
+            [member](FrmMain& frm, const Index& i) {
+                return valueText((frm.*member)(i[0], i[1], i[2]));
+            },
             [member](FrmMain& frm, const Index& i, const Token& t) {
                 assign((frm.*member)(i[0], i[1], i[2]), t);
             },
             [member](FrmMain& frm) {
                 const auto& a = frm.*member;
-                return range(0, a.UBound(1)) + "," + range(0, a.UBound(2)) + "," + range(0, a.UBound(3));
+                return range(0, a.UBound(1)) + "," + range(0, a.UBound(2)) + "," +
+                       range(0, a.UBound(3));
             }};
 }
 
@@ -87,7 +96,8 @@ Index readIndex(const Field& f, Args& a) {
 std::string elementName(const Field& f, const Index& i) {
     if (i.empty()) return f.name;
     std::string out = f.name + "(";
-    for (std::size_t k = 0; k < i.size(); ++k) out += (k ? "," : "") + std::to_string(i[k]);
+    for (std::size_t k = 0; k < i.size(); ++k)
+        out += (k ? "," : "") + std::to_string(i[k]);
     return out + ")";
 }
 

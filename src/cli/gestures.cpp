@@ -21,7 +21,9 @@ void boxMouse(const char* command, platform::PictureBox& box, const MouseEvent& 
     if (!box.MouseDown && !box.MouseMove && !box.MouseUp)
         notYet(command, box.name() + " mouse handlers");
     const platform::PictureBox::MouseHandler& handler =
-        e.action == MouseAction::Down ? box.MouseDown : e.action == MouseAction::Move ? box.MouseMove : box.MouseUp;
+        e.action == MouseAction::Down   ? box.MouseDown
+        : e.action == MouseAction::Move ? box.MouseMove
+                                        : box.MouseUp;
     int16_t button = e.button, shift = e.shift;
     auto x = static_cast<float>(box.scaleX(e.x));
     auto y = static_cast<float>(box.scaleY(e.y));
@@ -32,7 +34,9 @@ void boxMouse(const char* command, platform::PictureBox& box, const MouseEvent& 
 
 void canvasMouse(Session& s, const MouseEvent& e) { boxMouse("mouse", s.mainForm().Picture7, e); }
 
-void paletteMouse(Session& s, const MouseEvent& e) { boxMouse("palette", s.mainForm().Picture2, e); }
+void paletteMouse(Session& s, const MouseEvent& e) {
+    boxMouse("palette", s.mainForm().Picture2, e);
+}
 
 // As the window reports a new size: whole pixels, taken as they are, then Resize.
 void resizeMain(Session& s, double width, double height) {

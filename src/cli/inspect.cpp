@@ -16,8 +16,8 @@ std::string printPoint(const std::string& path, platform::Control& c, Args& a) {
     double x = a.number("x");
     double y = a.number("y");
     a.end();
-    return path + "(" + vb::formatNumber(x) + "," + vb::formatNumber(y) + ")=" +
-           std::to_string(box->Point(x, y));
+    return path + "(" + vb::formatNumber(x) + "," + vb::formatNumber(y) +
+           ")=" + std::to_string(box->Point(x, y));
 }
 
 } // namespace
@@ -32,7 +32,7 @@ void printCommand(Session& s, Args& a) {
     } else if (name.find('.') == std::string::npos) {
         throw ScriptError("no field " + name);
     } else if (Target t = resolve(s, name); t.rest == "Point") {
-        line = printPoint(name, *t.control, a);
+        line = printPoint(name, t.control, a);
     } else {
         a.end();
         line = name + "=" + findProperty(s, name).text();

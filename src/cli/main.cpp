@@ -55,8 +55,8 @@ int main(int argc, char** argv) {
     std::ios::sync_with_stdio(false);
     try {
         tavrin::cli::Session session(appDir ? *appDir : executableDir(argv[0]), std::cout);
-        return tavrin::cli::runScript(session, scriptPath ? static_cast<std::istream&>(file) : std::cin,
-                                      options, std::cerr);
+        return tavrin::cli::runScript(
+            session, scriptPath ? static_cast<std::istream&>(file) : std::cin, options, std::cerr);
     } catch (const std::exception& e) {
         std::cout.flush();
         std::cerr << "tavrin-script: internal error: " << e.what() << '\n';

@@ -10,7 +10,9 @@ namespace {
 MouseEvent readMouse(Args& a, std::initializer_list<const char*> actions) {
     std::string action = a.word("a mouse action", actions);
     MouseEvent e{};
-    e.action = action == "down" ? MouseAction::Down : action == "move" ? MouseAction::Move : MouseAction::Up;
+    e.action = action == "down"   ? MouseAction::Down
+               : action == "move" ? MouseAction::Move
+                                  : MouseAction::Up;
     e.button = static_cast<int16_t>(a.integer("a button", INT16_MIN, INT16_MAX));
     e.shift = static_cast<int16_t>(a.integer("a shift state", INT16_MIN, INT16_MAX));
     e.x = a.number("x");

@@ -15,7 +15,11 @@ const std::vector<Procedure>& procedures() {
 #include "editor/frm_main_procedures.def"
 #undef TAVRIN_PROCEDURE
         // Cancel is the handler's own business here: nobody closes a window.
-        Procedure{"Form_Unload", [](FrmMain& f) { int16_t cancel = 0; f.Form_Unload(cancel); }},
+        Procedure{"Form_Unload",
+                  [](FrmMain& f) {
+                      int16_t cancel = 0;
+                      f.Form_Unload(cancel);
+                  }},
     };
     return table;
 }

@@ -17,7 +17,8 @@ enum class Flow { Next, Ended };
 // What the window's event loop does around a handler: an editor error that no
 // procedure trapped is dropped and the next event runs; the end of the program ends
 // the script.
-Flow asEvent(Session& s, std::ostream& err, const std::string& where, const std::function<void()>& fn) {
+Flow asEvent(Session& s, std::ostream& err, const std::string& where,
+             const std::function<void()>& fn) {
     try {
         fn();
     } catch (const vb::EndProgram&) {
@@ -30,7 +31,8 @@ Flow asEvent(Session& s, std::ostream& err, const std::string& where, const std:
     return Flow::Next;
 }
 
-int fail(Session& s, std::ostream& err, const std::string& where, const std::string& message, int status) {
+int fail(Session& s, std::ostream& err, const std::string& where, const std::string& message,
+         int status) {
     s.out().flush();
     err << where << ": " << message << '\n';
     return status;
@@ -57,7 +59,8 @@ int runScript(Session& s, std::istream& script, const RunOptions& options, std::
     } catch (const ScriptError& e) {
         return fail(s, err, where, e.what(), kExitBadScript);
     } catch (const platform::ScriptedHost::MissingAnswer& e) {
-        return fail(s, err, where, std::string("no answer queued for the ") + e.what(), kExitNoAnswer);
+        return fail(s, err, where, std::string("no answer queued for the ") + e.what(),
+                    kExitNoAnswer);
     } catch (const DriverFailure& e) {
         return fail(s, err, where, e.what(), kExitFailure);
     }

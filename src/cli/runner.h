@@ -7,10 +7,10 @@
 
 namespace tavrin::cli {
 
-inline constexpr int kExitOk = 0;          // ran to its end, or to the program's end
-inline constexpr int kExitFailure = 1;     // the driver couldn't do its own part
-inline constexpr int kExitBadScript = 2;   // a line that doesn't parse, an unknown name
-inline constexpr int kExitNoAnswer = 3;    // a dialog or Yes/No box with no queued answer
+inline constexpr int kExitOk = 0;        // ran to its end, or to the program's end
+inline constexpr int kExitFailure = 1;   // the driver couldn't do its own part
+inline constexpr int kExitBadScript = 2; // a line that doesn't parse, an unknown name
+inline constexpr int kExitNoAnswer = 3;  // a dialog or Yes/No box with no queued answer
 
 struct RunOptions {
     bool trace = false; // echo each command as "> LINE" before running it

@@ -9,10 +9,14 @@ namespace {
 
 std::string answerWord(int answer) {
     switch (answer) {
-    case platform::kMsgOk: return "ok";
-    case platform::kMsgYes: return "yes";
-    case platform::kMsgNo: return "no";
-    default: return std::to_string(answer);
+    case platform::kMsgOk:
+        return "ok";
+    case platform::kMsgYes:
+        return "yes";
+    case platform::kMsgNo:
+        return "no";
+    default:
+        return std::to_string(answer);
     }
 }
 

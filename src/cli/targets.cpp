@@ -41,23 +41,24 @@ Target resolve(Session& s, const std::string& path) {
     auto [head, rest] = splitFirst(path);
     if (platform::Form* form = findForm(s, head)) {
         auto [name, after] = splitFirst(rest);
-        if (platform::Control* c = name.empty() ? nullptr : form->find(name)) return {c, after};
-        return {form, rest};
+        if (platform::Control* c = name.empty() ? nullptr : form->find(name)) return {*c, after};
+        return {*form, rest};
     }
-    if (platform::Control* c = s.mainForm().find(head)) return {c, rest};
+    if (platform::Control* c = s.mainForm().find(head)) return {*c, rest};
     throw ScriptError("no control or form named " + head);
 }
 
 const platform::PropBase& findProperty(Session& s, const std::string& path) {
     Target t = resolve(s, path);
     if (t.rest.empty()) throw ScriptError(path + " names no property");
-    const platform::PropBase* p = t.control->property(t.rest);
-    if (!p) throw ScriptError(t.control->name() + " has no property " + t.rest);
+    const platform::PropBase* p = t.control.property(t.rest);
+    if (!p) throw ScriptError(t.control.name() + " has no property " + t.rest);
     return *p;
 }
 
 void requireNothingAfter(const Target& t, const std::string& path) {
-    if (!t.rest.empty()) throw ScriptError(path + ": " + t.control->name() + " has no part " + t.rest);
+    if (!t.rest.empty())
+        throw ScriptError(path + ": " + t.control.name() + " has no part " + t.rest);
 }
 
 } // namespace tavrin::cli

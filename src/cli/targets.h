@@ -13,7 +13,7 @@ namespace tavrin::cli {
 platform::Form* findForm(Session& s, const std::string& name);
 
 struct Target {
-    platform::Control* control; // a control, or a form itself
+    platform::Control& control; // a control, or a form itself
     std::string rest;           // what follows its name after a dot, or ""
 };
 
@@ -32,7 +32,7 @@ void requireNothingAfter(const Target& t, const std::string& path);
 template <class T> T& controlOf(Session& s, const std::string& path, const char* what) {
     Target t = resolve(s, path);
     requireNothingAfter(t, path);
-    auto* c = dynamic_cast<T*>(t.control);
+    auto* c = dynamic_cast<T*>(&t.control);
     if (!c) throw ScriptError(path + " is not " + what);
     return *c;
 }

@@ -12,11 +12,11 @@ class MainControls : public platform::Form {
 public:
     MainControls() : Form("frmMain") {}
 
+    // clang-format off
 #define TAVRIN_CONTROL(Type, name) platform::Type name{this, #name}
-#define TAVRIN_PICTURE(name, scale, border, autoRedraw, back)                                   \
-    platform::PictureBox name {                                                                    \
-        this, #name, platform::PictureBox::Design { platform::ScaleUnit::scale, border, autoRedraw, back } \
-    }
+#define TAVRIN_PICTURE(name, scale, border, autoRedraw, back) \
+    platform::PictureBox name{this, #name, {platform::ScaleUnit::scale, border, autoRedraw, back}}
+    // clang-format on
     // Picture surfaces: scale, border pixels, AutoRedraw, back colour.
     TAVRIN_PICTURE(picture1, Pixels, 0, true, 0x000000);
     TAVRIN_PICTURE(Picture2, Pixels, 4, true, 0xC0C0C0);

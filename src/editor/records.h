@@ -8,7 +8,7 @@ struct PalRecord { // one colour of the palette
     int32_t Red = 0;
     int32_t Green = 0;
     int32_t Blue = 0;
-    int16_t Index = 0; // the record's own number: the value that goes into Skin_Grid
+    int16_t Index = 0;  // the record's own number: the value that goes into Skin_Grid
     int16_t Cell_X = 0; // the cell in Picture2, in pixels
     int16_t Cell_Y = 0;
 };

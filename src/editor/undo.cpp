@@ -21,9 +21,7 @@ void copyCells(const vb::Array<int16_t>& from, vb::Array<int16_t>& to) {
 } // namespace
 
 // Before any load Skin_Grid isn't allocated: this raises and the press ends here.
-void FrmMain::takeGridSnapshot() {
-    copyCells(Skin_Grid, Undo_Grid);
-}
+void FrmMain::takeGridSnapshot() { copyCells(Skin_Grid, Undo_Grid); }
 
 // Undo doesn't use the snapshot up: repeating it restores the same state, and nothing
 // redoes.

@@ -91,8 +91,10 @@ void FrmMain::showLoadedPictureEnd(double panelExtraHeight, void (FrmMain::*betw
     repaintCanvas();
     host_.DoEvents();
     frmCenter();
-    if (betweenCenters) (this->*betweenCenters)();
-    else Tool_Mode = "Zoom";
+    if (betweenCenters)
+        (this->*betweenCenters)();
+    else
+        Tool_Mode = "Zoom";
     frmCenter();
     Tool_Mode = "Zoom";
     SSPanel3.Caption = "Zoom";

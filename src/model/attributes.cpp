@@ -11,8 +11,8 @@ const std::string kCR = "\r";
 } // namespace
 
 void FrmMain::ia_Click() {
-    host_.MsgBox("Image Attributes: " + kCR + Skin_Path + kCR + kCR + "Skin Width: " + Skin_Width.str() +
-                     kCR + "Skin Height: " + Skin_Height.str(),
+    host_.MsgBox("Image Attributes: " + kCR + Skin_Path + kCR + kCR +
+                     "Skin Width: " + Skin_Width.str() + kCR + "Skin Height: " + Skin_Height.str(),
                  platform::kStyleOk);
     ri_Click();
 }

@@ -16,8 +16,8 @@ void FrmMain::readModel(bool sizePicture1) {
     // A failed reading closes its file, so that the next one can open it again.
     try {
         std::vector<uint8_t> headerBytes, stBytes, trisBytes;
-        Md2Header h{MD2_Ident,  MD2_Skin_Width, MD2_Skin_Height, MD2_Num_St,
-                    MD2_Num_Tris, MD2_Ofs_Skins, MD2_Ofs_St,      MD2_Ofs_Tris};
+        Md2Header h{MD2_Ident,    MD2_Skin_Width, MD2_Skin_Height, MD2_Num_St,
+                    MD2_Num_Tris, MD2_Ofs_Skins,  MD2_Ofs_St,      MD2_Ofs_Tris};
         readMd2Header(Files.GetWindow(1, 1, kMd2HeaderBytes, headerBytes), h);
         MD2_Ident = h.ident;
         MD2_Skin_Width = h.skinWidth;

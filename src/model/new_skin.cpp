@@ -61,7 +61,8 @@ void FrmMain::Get_NewSkin() {
 
     // Black stays 0, anything else is a line: 15, whatever colour the palette gives it.
     const double cols = Skin_Cols.num();
-    if (picture1.ScaleWidth == picture1.innerWidth() && picture1.ScaleHeight == picture1.innerHeight()) {
+    if (picture1.ScaleWidth == picture1.innerWidth() &&
+        picture1.ScaleHeight == picture1.innerHeight()) {
         // One unit a pixel, as Get_Frame leaves it: Point at whole units is the pixel
         // itself, and -1 beyond the picture, which leaves the entry. The image is read
         // in one go: a tall skin has millions of pixels.
@@ -75,13 +76,17 @@ void FrmMain::Get_NewSkin() {
             std::transform(from, from + across, &Skin_Grid(y * cols),
                            [](uint32_t c) { return static_cast<int16_t>(c == 0 ? 0 : 15); });
         }
-        if (Skin_Rows > 0 && cols >= 1) Cur_Color = picture1.Point(std::floor(cols) - 1, Skin_Rows - 1);
+        if (Skin_Rows > 0 && cols >= 1)
+            Cur_Color = picture1.Point(std::floor(cols) - 1, Skin_Rows - 1);
     } else {
-        for (double y = 0; y <= Skin_Rows - 1; ++y) {
-            for (double x = 0; x <= cols - 1; ++x) {
+        // Whole counters: cols may hold a fraction, and the loops run while x <= cols - 1.
+        for (int y = 0; y <= Skin_Rows - 1; ++y) {
+            for (int64_t x = 0; static_cast<double>(x) <= cols - 1; ++x) {
                 Cur_Color = picture1.Point(x, y);
-                if (Cur_Color == 0) Skin_Grid(y * cols + x) = 0;
-                else if (Cur_Color != -1) Skin_Grid(y * cols + x) = 15;
+                if (Cur_Color == 0)
+                    Skin_Grid(y * cols + x) = 0;
+                else if (Cur_Color != -1)
+                    Skin_Grid(y * cols + x) = 15;
             }
         }
     }

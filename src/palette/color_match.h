@@ -11,10 +11,10 @@ namespace tavrin {
 
 // What one match leaves behind. The fields it doesn't touch keep their values.
 struct MatchResult {
-    int32_t checkColor = 0;   // the palette colour, or Near_Color as it was
-    bool indexSet = false;    // false: no record came nearer than 780, Color_Index stays
+    int32_t checkColor = 0; // the palette colour, or Near_Color as it was
+    bool indexSet = false;  // false: no record came nearer than 780, Color_Index stays
     int16_t index = 0;
-    bool nearSet = false;     // false: Near_Color stays as it was
+    bool nearSet = false; // false: Near_Color stays as it was
     int32_t nearColor = 0;
     int16_t nearDistance = 780;
 };

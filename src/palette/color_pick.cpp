@@ -116,8 +116,6 @@ void FrmMain::Picture2_MouseDown(int16_t Button, int16_t, float X, float Y) {
 }
 
 // The mask flag shows only while a button is down on the palette.
-void FrmMain::Picture2_MouseUp(int16_t, int16_t, float, float) {
-    SSPanel4.Visible = false;
-}
+void FrmMain::Picture2_MouseUp(int16_t, int16_t, float, float) { SSPanel4.Visible = false; }
 
 } // namespace tavrin

@@ -20,12 +20,13 @@ void FrmMain::Get_Pal() {
             Pal_Answer = "";
         }
         std::vector<uint8_t> bytes;
-        const std::vector<Rgb> colors =
-            readRawPalette(Files.GetWindow(1, first, first + 3 * kRawPaletteMostColors - 1, bytes), first);
+        const std::vector<Rgb> colors = readRawPalette(
+            Files.GetWindow(1, first, first + 3 * kRawPaletteMostColors - 1, bytes), first);
         int16_t x = 0, y = 0;
         for (std::size_t record = 0; record < colors.size(); ++record) {
             const Rgb c = colors[record];
-            Picture2.Line(x, y, x + 10, y + 10, vb::RGB(c.red, c.green, c.blue), platform::kFilledBoxKind);
+            Picture2.Line(x, y, x + 10, y + 10, vb::RGB(c.red, c.green, c.blue),
+                          platform::kFilledBoxKind);
             // Two records past the palette proper are kept; the one drawn after them is not.
             if (record > 257) break;
             PalRecord& r = Pal_Table(static_cast<int>(record));

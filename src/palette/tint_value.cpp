@@ -60,12 +60,8 @@ void FrmMain::Slider1_Change() {
 }
 
 // Shows only: choosing it while the panel is open changes nothing.
-void FrmMain::tValue_Click() {
-    SSPanel16.Visible = true;
-}
+void FrmMain::tValue_Click() { SSPanel16.Visible = true; }
 
-void FrmMain::SSCommand39_Click() {
-    SSPanel16.Visible = false;
-}
+void FrmMain::SSCommand39_Click() { SSPanel16.Visible = false; }
 
 } // namespace tavrin

@@ -63,7 +63,8 @@ void Control::unobserve(int id) {
 
 void Control::notify(const PropBase* prop) {
     // By index: an observer may add or remove observers while it is being told.
-    for (std::size_t i = 0; i < observers_.size(); ++i) observers_[i].second(prop);
+    for (std::size_t i = 0; i < observers_.size(); ++i)
+        observers_[i].second(prop);
 }
 
 const PropBase* Control::property(const std::string& name) const {

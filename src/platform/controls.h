@@ -15,8 +15,19 @@ namespace platform {
 class Form;
 
 enum class ControlKind {
-    Form, PictureBox, Panel, Button, Label, TextBox, ListBox, Slider, StatusBar,
-    ProgressBar, MenuItem, Toolbar, CommonDialog
+    Form,
+    PictureBox,
+    Panel,
+    Button,
+    Label,
+    TextBox,
+    ListBox,
+    Slider,
+    StatusBar,
+    ProgressBar,
+    MenuItem,
+    Toolbar,
+    CommonDialog
 };
 
 class Control {
@@ -98,8 +109,7 @@ public:
 
 class TextBox : public Control {
 public:
-    TextBox(Form* form, std::string name)
-        : Control(form, std::move(name), ControlKind::TextBox) {}
+    TextBox(Form* form, std::string name) : Control(form, std::move(name), ControlKind::TextBox) {}
     Prop<std::string> Text{this, "Text"};
     // KeyPress(KeyAscii): the view calls it for each character typed.
     std::function<void(int16_t& keyAscii)> KeyPress;
@@ -107,8 +117,7 @@ public:
 
 class ListBox : public Control {
 public:
-    ListBox(Form* form, std::string name)
-        : Control(form, std::move(name), ControlKind::ListBox) {}
+    ListBox(Form* form, std::string name) : Control(form, std::move(name), ControlKind::ListBox) {}
     void AddItem(const std::string& item);
     const std::vector<std::string>& items() const { return items_; }
     Prop<int> ListCount{this, "ListCount", 0};
@@ -162,8 +171,7 @@ public:
 
 class Toolbar : public Control {
 public:
-    Toolbar(Form* form, std::string name)
-        : Control(form, std::move(name), ControlKind::Toolbar) {}
+    Toolbar(Form* form, std::string name) : Control(form, std::move(name), ControlKind::Toolbar) {}
     struct Button {
         std::string Key; // empty for a separator
         std::string ToolTipText;

@@ -13,9 +13,10 @@ public:
     explicit Form(std::string name);
 
     Prop<std::string> Caption{this, "Caption"};
-    Prop<int> WindowState{this, "WindowState", 0}; // 2: maximised
+    Prop<int> WindowState{this, "WindowState", 0};   // 2: maximised
     Prop<int> MousePointer{this, "MousePointer", 0}; // 11: hourglass
-    Prop<int> BackColor{this, "BackColor", static_cast<int>(0x8000000Fu)}; // the system's face colour
+    Prop<int> BackColor{this, "BackColor",
+                        static_cast<int>(0x8000000Fu)}; // the system's face colour
 
     // Told by the view when the window was resized or came to the front.
     std::function<void()> Resize;

@@ -37,8 +37,10 @@ PictureBox::PictureBox(Form* form, std::string name, Design design)
 
 double PictureBox::unitsPerPixel(bool across) const {
     switch (unit_) {
-    case ScaleUnit::Pixels: return 1.0;
-    case ScaleUnit::Twips: return 15.0;
+    case ScaleUnit::Pixels:
+        return 1.0;
+    case ScaleUnit::Twips:
+        return 15.0;
     case ScaleUnit::User: {
         int inner = across ? innerW_ : innerH_;
         double extent = across ? userW_ : userH_;
@@ -127,7 +129,8 @@ void PictureBox::resetImage() {
         return;
     }
     std::shared_ptr<Raster> r;
-    if (image_ && image_.use_count() == 1 && image_->width == innerW_ && image_->height == innerH_) {
+    if (image_ && image_.use_count() == 1 && image_->width == innerW_ &&
+        image_->height == innerH_) {
         // Cleared in place: a box that held a huge picture alone can always be cleared,
         // without a second one beside it for a moment.
         r = std::move(image_);
@@ -158,7 +161,8 @@ Raster& PictureBox::writable(const PixelRect& touched) {
                 back = &s;
         std::shared_ptr<Raster> next;
         if (back) {
-            const PixelRect st = back->stale.intersect(PixelRect{0, 0, image_->width, image_->height});
+            const PixelRect st =
+                back->stale.intersect(PixelRect{0, 0, image_->width, image_->height});
             for (int64_t y = st.y0; y < st.y1; ++y) {
                 const auto at = static_cast<std::size_t>(y * image_->width + st.x0);
                 std::copy_n(&image_->px[at], st.x1 - st.x0, &back->raster->px[at]);
@@ -177,7 +181,8 @@ Raster& PictureBox::writable(const PixelRect& touched) {
     }
     const PixelRect t = touched.intersect(inner());
     image_->lineage.written = image_->lineage.written.unite(t);
-    for (Spare& s : spares_) s.stale = s.stale.unite(t);
+    for (Spare& s : spares_)
+        s.stale = s.stale.unite(t);
     changedPixels(t);
     return *image_;
 }
@@ -193,9 +198,7 @@ void PictureBox::plot(Raster& r, int64_t x, int64_t y, uint32_t color) const {
     p = DrawMode.get() == kXorPen ? (p ^ color) : color;
 }
 
-void PictureBox::onBackColor() {
-    Cls();
-}
+void PictureBox::onBackColor() { Cls(); }
 
 void PictureBox::Cls() {
     ops_.clear();
@@ -223,7 +226,8 @@ PictureBox::PictureProp& PictureBox::PictureProp::operator=(const PictureHandle&
 int32_t PictureBox::Point(double x, double y) const {
     int64_t px = toPixelX(x), py = toPixelY(y);
     if (!inner().contains(px, py)) return -1;
-    if (design_.autoRedraw) return static_cast<int32_t>(image_->at(static_cast<int>(px), static_cast<int>(py)));
+    if (design_.autoRedraw)
+        return static_cast<int32_t>(image_->at(static_cast<int>(px), static_cast<int>(py)));
     for (auto it = ops_.rbegin(); it != ops_.rend(); ++it) {
         if (auto* line = std::get_if<LineOp>(&*it)) {
             if (line->seg.contains(px, py)) return static_cast<int32_t>(line->color);
@@ -235,7 +239,8 @@ int32_t PictureBox::Point(double x, double y) const {
                 PixelRect b = paint.bounds();
                 int64_t sx = stretchSource(px - b.x0, paint.w, 0, paint.src->width);
                 int64_t sy = stretchSource(py - b.y0, paint.h, 0, paint.src->height);
-                return static_cast<int32_t>(paint.src->at(static_cast<int>(sx), static_cast<int>(sy)));
+                return static_cast<int32_t>(
+                    paint.src->at(static_cast<int>(sx), static_cast<int>(sy)));
             }
         }
     }
@@ -283,17 +288,21 @@ void PictureBox::Line(double x1, double y1, double x2, double y2, int32_t color,
         segments.push_back(seg(ax, ay, bx, by));
     }
     PixelRect touched = fill ? filled : PixelRect{};
-    for (const auto& s : segments) touched = touched.unite(boundsOf(LineOp{s, c}));
+    for (const auto& s : segments)
+        touched = touched.unite(boundsOf(LineOp{s, c}));
     if (design_.autoRedraw) {
         Raster& r = writable(touched);
-        for (const auto& s : segments) s.forEach(inner(), [&](int64_t x, int64_t y) { plot(r, x, y, c); });
+        for (const auto& s : segments)
+            s.forEach(inner(), [&](int64_t x, int64_t y) { plot(r, x, y, c); });
         if (fill) {
             PixelRect f = filled.intersect(inner());
             for (int64_t y = f.y0; y < f.y1; ++y)
-                for (int64_t x = f.x0; x < f.x1; ++x) plot(r, x, y, c);
+                for (int64_t x = f.x0; x < f.x1; ++x)
+                    plot(r, x, y, c);
         }
     } else {
-        for (const auto& s : segments) ops_.push_back(LineOp{s, c});
+        for (const auto& s : segments)
+            ops_.push_back(LineOp{s, c});
         if (fill) ops_.push_back(FillOp{filled, c});
         changedPixels(touched);
     }
@@ -350,15 +359,16 @@ PixelRect PictureBox::repaintedArea(const PaintOp& cover) const {
         area = stretchedArea(now.written, cover.src->width, cover.src->height, cover.x, cover.y,
                              cover.w, cover.h);
     }
-    for (std::size_t i = 1; i < ops_.size(); ++i) area = area.unite(boundsOf(ops_[i]));
+    for (std::size_t i = 1; i < ops_.size(); ++i)
+        area = area.unite(boundsOf(ops_[i]));
     return area;
 }
 
 PixelRect PictureBox::boundsOf(const Op& op) {
     if (const auto* line = std::get_if<LineOp>(&op)) {
         const LineSegment& s = line->seg;
-        return PixelRect{std::min(s.x1, s.x2), std::min(s.y1, s.y2), int64_t{std::max(s.x1, s.x2)} + 1,
-                         int64_t{std::max(s.y1, s.y2)} + 1};
+        return PixelRect{std::min(s.x1, s.x2), std::min(s.y1, s.y2),
+                         int64_t{std::max(s.x1, s.x2)} + 1, int64_t{std::max(s.y1, s.y2)} + 1};
     }
     if (const auto* fill = std::get_if<FillOp>(&op)) return fill->rect;
     return std::get<PaintOp>(op).bounds();

@@ -21,7 +21,8 @@ struct Run {
     int64_t col, count;
 };
 
-template <bool Xrgb> void fillRow(const uint32_t* src, const std::vector<Run>& runs, uint32_t* out) {
+template <bool Xrgb>
+void fillRow(const uint32_t* src, const std::vector<Run>& runs, uint32_t* out) {
     for (const Run& r : runs) {
         const uint32_t c = src[r.col];
         std::fill_n(out, r.count, Xrgb ? toXrgb(c) : c);
@@ -44,8 +45,10 @@ void PictureBox::render(const PixelRect& region, uint32_t* dst, std::ptrdiff_t s
     if (design_.autoRedraw) {
         for (int64_t y = area.y0; y < area.y1; ++y) {
             const uint32_t* row = &image_->px[static_cast<std::size_t>(y) * innerW_ + area.x0];
-            if (xrgb) std::transform(row, row + width, out(area.x0, y), toXrgb);
-            else std::copy_n(row, width, out(area.x0, y));
+            if (xrgb)
+                std::transform(row, row + width, out(area.x0, y), toXrgb);
+            else
+                std::copy_n(row, width, out(area.x0, y));
         }
         return;
     }
@@ -53,9 +56,11 @@ void PictureBox::render(const PixelRect& region, uint32_t* dst, std::ptrdiff_t s
     // The background shows only where the first picture painted leaves room.
     const auto* first = ops_.empty() ? nullptr : std::get_if<PaintOp>(&ops_.front());
     const PixelRect covered = first ? first->bounds().intersect(area) : PixelRect{};
-    if (covered.x0 != area.x0 || covered.y0 != area.y0 || covered.x1 != area.x1 || covered.y1 != area.y1)
+    if (covered.x0 != area.x0 || covered.y0 != area.y0 || covered.x1 != area.x1 ||
+        covered.y1 != area.y1)
         for (int64_t y = area.y0; y < area.y1; ++y)
-            for (int64_t x = area.x0; x < area.x1; ++x) *out(x, y) = shown(background(x, y));
+            for (int64_t x = area.x0; x < area.x1; ++x)
+                *out(x, y) = shown(background(x, y));
 
     std::vector<Run> runs;
     for (const Op& op : ops_) {
@@ -66,7 +71,8 @@ void PictureBox::render(const PixelRect& region, uint32_t* dst, std::ptrdiff_t s
         }
         if (const auto* fill = std::get_if<FillOp>(&op)) {
             const PixelRect f = fill->rect.intersect(area);
-            for (int64_t y = f.y0; y < f.y1; ++y) std::fill_n(out(f.x0, y), f.x1 - f.x0, shown(fill->color));
+            for (int64_t y = f.y0; y < f.y1; ++y)
+                std::fill_n(out(f.x0, y), f.x1 - f.x0, shown(fill->color));
             continue;
         }
         const auto& p = std::get<PaintOp>(op);
@@ -79,8 +85,10 @@ void PictureBox::render(const PixelRect& region, uint32_t* dst, std::ptrdiff_t s
         for (int64_t x = f.x0; x < f.x1 && inside; ++x) {
             const int64_t col = stretchSource(x - b.x0, p.w, 0, srcW);
             inside = col >= 0 && col < srcW;
-            if (!runs.empty() && runs.back().col == col) ++runs.back().count;
-            else runs.push_back(Run{col, 1});
+            if (!runs.empty() && runs.back().col == col)
+                ++runs.back().count;
+            else
+                runs.push_back(Run{col, 1});
         }
         if (!inside) continue;
         const auto n = static_cast<std::size_t>(f.x1 - f.x0);
@@ -94,8 +102,10 @@ void PictureBox::render(const PixelRect& region, uint32_t* dst, std::ptrdiff_t s
                 std::copy_n(built, n, o);
             } else {
                 const uint32_t* row = &p.src->px[static_cast<std::size_t>(sy * srcW)];
-                if (xrgb) fillRow<true>(row, runs, o);
-                else fillRow<false>(row, runs, o);
+                if (xrgb)
+                    fillRow<true>(row, runs, o);
+                else
+                    fillRow<false>(row, runs, o);
                 builtFrom = sy;
             }
             built = o;

@@ -72,7 +72,8 @@ PixelRect PixelRect::intersect(const PixelRect& o) const {
 PixelRect PixelRect::unite(const PixelRect& o) const {
     if (empty()) return o;
     if (o.empty()) return *this;
-    return PixelRect{std::min(x0, o.x0), std::min(y0, o.y0), std::max(x1, o.x1), std::max(y1, o.y1)};
+    return PixelRect{std::min(x0, o.x0), std::min(y0, o.y0), std::max(x1, o.x1),
+                     std::max(y1, o.y1)};
 }
 
 bool LineSegment::contains(int64_t x, int64_t y) const {

@@ -37,7 +37,7 @@ struct Raster {
     Raster(int w, int h, uint32_t fill);
     int width = 0;
     int height = 0;
-    vb::Reservation memory; // before px, so a copy is counted before it is made
+    vb::Reservation memory;   // before px, so a copy is counted before it is made
     std::vector<uint32_t> px; // row by row, width * height
     Lineage lineage;
 
@@ -105,8 +105,10 @@ template <class F> void LineSegment::forEach(const PixelRect& clip, F&& fn) cons
     for (int64_t i = lo; i <= hi; ++i) {
         const int64_t a = a1 + sa * i, b = minorAt(b1, db, i, n);
         if (b < bLo || b >= bHi) continue;
-        if (alongX) fn(a, b);
-        else fn(b, a);
+        if (alongX)
+            fn(a, b);
+        else
+            fn(b, a);
     }
 }
 

@@ -22,7 +22,8 @@ int ScriptedHost::MsgBox(const std::string& text, int style) {
 
 bool ScriptedHost::fileDialog(std::deque<std::optional<std::string>>& queue, const char* kind,
                               CommonDialog& dialog) {
-    if (queue.empty()) throw MissingAnswer(std::string(kind) + " dialog \"" + dialog.DialogTitle.get() + "\"");
+    if (queue.empty())
+        throw MissingAnswer(std::string(kind) + " dialog \"" + dialog.DialogTitle.get() + "\"");
     std::optional<std::string> path = queue.front();
     queue.pop_front();
     if (onDialog) onDialog(kind, dialog.DialogTitle, path);
@@ -38,7 +39,9 @@ bool ScriptedHost::ShowColor(CommonDialog& dialog) {
     if (colors_.empty()) throw MissingAnswer("color dialog");
     auto c = colors_.front();
     colors_.pop_front();
-    if (onDialog) onDialog("color", dialog.DialogTitle, c ? std::optional<std::string>(std::to_string(*c)) : std::nullopt);
+    if (onDialog)
+        onDialog("color", dialog.DialogTitle,
+                 c ? std::optional<std::string>(std::to_string(*c)) : std::nullopt);
     if (!c) return false;
     dialog.Color = *c;
     return true;
@@ -48,7 +51,9 @@ bool ScriptedHost::ShowFont(CommonDialog& dialog) {
     if (fonts_.empty()) throw MissingAnswer("font dialog");
     auto f = fonts_.front();
     fonts_.pop_front();
-    if (onDialog) onDialog("font", dialog.DialogTitle, f ? std::optional<std::string>(f->name) : std::nullopt);
+    if (onDialog)
+        onDialog("font", dialog.DialogTitle,
+                 f ? std::optional<std::string>(f->name) : std::nullopt);
     if (!f) return false;
     dialog.FontName = f->name;
     dialog.FontSize = f->size;
@@ -59,7 +64,9 @@ bool ScriptedHost::ShowPrinter(CommonDialog& dialog) {
     if (printers_.empty()) throw MissingAnswer("printer dialog");
     bool ok = printers_.front();
     printers_.pop_front();
-    if (onDialog) onDialog("printer", dialog.DialogTitle, ok ? std::optional<std::string>("ok") : std::nullopt);
+    if (onDialog)
+        onDialog("printer", dialog.DialogTitle,
+                 ok ? std::optional<std::string>("ok") : std::nullopt);
     return ok;
 }
 

@@ -25,22 +25,29 @@ Variant Variant::Long(int32_t v) {
 double Variant::num() const {
     if (kind_ != Kind::String) return num_;
     const char* begin = text_.c_str();
-    while (*begin == ' ') ++begin;
+    while (*begin == ' ')
+        ++begin;
     if (*begin == '\0') raise(TypeMismatch);
     char* end = nullptr;
     double v = std::strtod(begin, &end);
-    while (end && *end == ' ') ++end;
+    while (end && *end == ' ')
+        ++end;
     if (end == begin || (end && *end != '\0')) raise(TypeMismatch);
     return v;
 }
 
 std::string Variant::str() const {
     switch (kind_) {
-    case Kind::Empty: return "";
-    case Kind::String: return text_;
-    case Kind::Boolean: return num_ != 0.0 ? "True" : "False";
-    case Kind::Single: return formatSingle(static_cast<float>(num_));
-    default: return formatNumber(num_);
+    case Kind::Empty:
+        return "";
+    case Kind::String:
+        return text_;
+    case Kind::Boolean:
+        return num_ != 0.0 ? "True" : "False";
+    case Kind::Single:
+        return formatSingle(static_cast<float>(num_));
+    default:
+        return formatNumber(num_);
     }
 }
 

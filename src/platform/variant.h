@@ -12,9 +12,9 @@ public:
     enum class Kind { Empty, Integer, Long, Single, Double, String, Boolean };
 
     Variant() = default;
-    Variant(int v);                                    // Integer when it fits in 16 bits, else Long
+    Variant(int v); // Integer when it fits in 16 bits, else Long
     Variant(int16_t v) : kind_(Kind::Integer), num_(v) {}
-    Variant(long long v);                              // Long when it fits, else Double
+    Variant(long long v); // Long when it fits, else Double
     Variant(long v) : Variant(static_cast<long long>(v)) {}
     Variant(float v) : kind_(Kind::Single), num_(v) {}
     Variant(double v) : kind_(Kind::Double), num_(v) {}

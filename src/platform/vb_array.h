@@ -91,8 +91,10 @@ public:
 private:
     template <class I> std::size_t offset(I i) const {
         int64_t index;
-        if constexpr (std::is_integral_v<I>) index = static_cast<int64_t>(i);
-        else index = CLng(static_cast<double>(i)); // a float or a dynamic number
+        if constexpr (std::is_integral_v<I>)
+            index = static_cast<int64_t>(i);
+        else
+            index = CLng(static_cast<double>(i)); // a float or a dynamic number
         if (!allocated_ || index < lower_ || index > upper_) raise(SubscriptOutOfRange);
         return static_cast<std::size_t>(index - lower_);
     }
@@ -125,12 +127,13 @@ public:
 
 private:
     template <class I> static int64_t index(I i) {
-        if constexpr (std::is_integral_v<I>) return static_cast<int64_t>(i);
-        else return CLng(static_cast<double>(i));
+        if constexpr (std::is_integral_v<I>)
+            return static_cast<int64_t>(i);
+        else
+            return CLng(static_cast<double>(i));
     }
     std::size_t offset(int64_t i, int64_t j, int64_t k) const {
-        if (i < 0 || i >= n0_ || j < 0 || j >= n1_ || k < 0 || k >= n2_)
-            raise(SubscriptOutOfRange);
+        if (i < 0 || i >= n0_ || j < 0 || j >= n1_ || k < 0 || k >= n2_) raise(SubscriptOutOfRange);
         return static_cast<std::size_t>((i * n1_ + j) * n2_ + k);
     }
 

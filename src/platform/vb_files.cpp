@@ -105,9 +105,9 @@ std::size_t FileTable::read(int number, int64_t position, uint8_t* out, std::siz
     if (position < 1) raise(BadRecordNumber);
     if (f.writing) raise(BadFileMode);
     int64_t start = position - 1;
-    std::size_t available =
-        start >= f.length ? 0 : static_cast<std::size_t>(std::min<int64_t>(f.length - start,
-                                                                           static_cast<int64_t>(count)));
+    std::size_t available = start >= f.length ? 0
+                                              : static_cast<std::size_t>(std::min<int64_t>(
+                                                    f.length - start, static_cast<int64_t>(count)));
     if (available > 0) {
         f.in.clear();
         f.in.seekg(start);
@@ -122,9 +122,9 @@ std::vector<uint8_t> FileTable::GetBytes(int number, int64_t position, std::size
     auto& f = file(number);
     if (position < 1) raise(BadRecordNumber);
     int64_t start = position - 1;
-    std::size_t available =
-        start >= f.length ? 0 : static_cast<std::size_t>(std::min<int64_t>(f.length - start,
-                                                                           static_cast<int64_t>(count)));
+    std::size_t available = start >= f.length ? 0
+                                              : static_cast<std::size_t>(std::min<int64_t>(
+                                                    f.length - start, static_cast<int64_t>(count)));
     checkAllocation(available, 1);
     std::vector<uint8_t> bytes(available);
     read(number, position, bytes.data(), count > available ? available : count);
@@ -132,12 +132,14 @@ std::vector<uint8_t> FileTable::GetBytes(int number, int64_t position, std::size
     return bytes;
 }
 
-ByteWindow FileTable::GetWindow(int number, int64_t from, int64_t last, std::vector<uint8_t>& storage) {
+ByteWindow FileTable::GetWindow(int number, int64_t from, int64_t last,
+                                std::vector<uint8_t>& storage) {
     const int64_t length = LOF(number);
     const int64_t first = std::max<int64_t>(from, 1);
     last = std::min(last, length);
     storage.clear();
-    if (last >= first) storage = GetBytes(number, first, static_cast<std::size_t>(last - first + 1));
+    if (last >= first)
+        storage = GetBytes(number, first, static_cast<std::size_t>(last - first + 1));
     return ByteWindow{first, length, storage};
 }
 

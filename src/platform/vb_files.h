@@ -38,7 +38,8 @@ public:
         uint8_t bytes[sizeof(T)];
         if (read(number, position, bytes, sizeof(T)) < sizeof(T)) return;
         uint64_t acc = 0;
-        for (std::size_t i = 0; i < sizeof(T); ++i) acc |= static_cast<uint64_t>(bytes[i]) << (8 * i);
+        for (std::size_t i = 0; i < sizeof(T); ++i)
+            acc |= static_cast<uint64_t>(bytes[i]) << (8 * i);
         variable = static_cast<T>(acc);
     }
 

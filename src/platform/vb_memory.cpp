@@ -12,7 +12,8 @@ std::atomic<std::size_t> live{0};
 void checkAllocation(std::size_t count, std::size_t elementSize) {
     if (elementSize == 0) return;
     if (count > kMaxAllocationBytes / elementSize) raise(OutOfMemory);
-    if (count * elementSize > kMaxLiveBytes - std::min(live.load(), kMaxLiveBytes)) raise(OutOfMemory);
+    if (count * elementSize > kMaxLiveBytes - std::min(live.load(), kMaxLiveBytes))
+        raise(OutOfMemory);
 }
 
 std::size_t liveBytes() { return live.load(); }

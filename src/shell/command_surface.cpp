@@ -13,10 +13,14 @@ namespace tavrin {
 namespace {
 
 void setCaption(platform::Control& c, const std::string& caption) {
-    if (auto* panel = dynamic_cast<platform::Panel*>(&c)) panel->Caption = caption;
-    else if (auto* button = dynamic_cast<platform::CommandButton*>(&c)) button->Caption = caption;
-    else if (auto* label = dynamic_cast<platform::Label*>(&c)) label->Caption = caption;
-    else if (auto* box = dynamic_cast<platform::TextBox*>(&c)) box->Text = caption;
+    if (auto* panel = dynamic_cast<platform::Panel*>(&c))
+        panel->Caption = caption;
+    else if (auto* button = dynamic_cast<platform::CommandButton*>(&c))
+        button->Caption = caption;
+    else if (auto* label = dynamic_cast<platform::Label*>(&c))
+        label->Caption = caption;
+    else if (auto* box = dynamic_cast<platform::TextBox*>(&c))
+        box->Text = caption;
 }
 
 } // namespace
@@ -48,7 +52,8 @@ void FrmMain::buildCommandSurface() {
         c->Move(s.left, s.top, s.width, s.height);
         if (*s.caption) setCaption(*c, s.caption);
         if (*s.toolTip)
-            if (auto* button = dynamic_cast<platform::CommandButton*>(c)) button->ToolTipText = s.toolTip;
+            if (auto* button = dynamic_cast<platform::CommandButton*>(c))
+                button->ToolTipText = s.toolTip;
         c->Visible = s.visible;
         if (s.click) c->Click = [this, h = s.click] { (this->*h)(); };
     }
@@ -60,11 +65,21 @@ void FrmMain::buildCommandSurface() {
     // The events that carry arguments, which the tables (clicks only) can't hold.
     Resize = [this] { Form_Resize(); };
     GotFocus = [this] { Form_GotFocus(); };
-    Picture7.MouseDown = [this](int16_t b, int16_t s, float x, float y) { Picture7_MouseDown(b, s, x, y); };
-    Picture7.MouseMove = [this](int16_t b, int16_t s, float x, float y) { Picture7_MouseMove(b, s, x, y); };
-    Picture7.MouseUp = [this](int16_t b, int16_t s, float x, float y) { Picture7_MouseUp(b, s, x, y); };
-    Picture2.MouseDown = [this](int16_t b, int16_t s, float x, float y) { Picture2_MouseDown(b, s, x, y); };
-    Picture2.MouseUp = [this](int16_t b, int16_t s, float x, float y) { Picture2_MouseUp(b, s, x, y); };
+    Picture7.MouseDown = [this](int16_t b, int16_t s, float x, float y) {
+        Picture7_MouseDown(b, s, x, y);
+    };
+    Picture7.MouseMove = [this](int16_t b, int16_t s, float x, float y) {
+        Picture7_MouseMove(b, s, x, y);
+    };
+    Picture7.MouseUp = [this](int16_t b, int16_t s, float x, float y) {
+        Picture7_MouseUp(b, s, x, y);
+    };
+    Picture2.MouseDown = [this](int16_t b, int16_t s, float x, float y) {
+        Picture2_MouseDown(b, s, x, y);
+    };
+    Picture2.MouseUp = [this](int16_t b, int16_t s, float x, float y) {
+        Picture2_MouseUp(b, s, x, y);
+    };
     Slider1.Change = [this] { Slider1_Change(); };
 }
 

@@ -18,7 +18,7 @@ struct MenuRow {
     bool checked;
     bool visible;
     bool enabled;
-    Handler handler;      // nullptr: the item does nothing (yet)
+    Handler handler; // nullptr: the item does nothing (yet)
 };
 
 // The menu bar, in order, and the popup menu Pop (hidden from the bar) after it.
@@ -26,7 +26,7 @@ const std::vector<MenuRow>& menuTable();
 
 struct ControlRow {
     const char* name;
-    const char* container; // "" for the form itself
+    const char* container;           // "" for the form itself
     double left, top, width, height; // twips
     const char* caption;
     const char* toolTip;

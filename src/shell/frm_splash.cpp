@@ -26,7 +26,8 @@ FrmSplash::FrmSplash(platform::Host& host, std::function<void()> showMain)
 void FrmSplash::Form_Load() {
     lblVersion.Caption = "Version " + std::string(kVersion);
     lblProductName.Caption = "Tavrin";
-    for (const std::string& line : releaseNotes()) List1.AddItem(line);
+    for (const std::string& line : releaseNotes())
+        List1.AddItem(line);
 }
 
 void FrmSplash::SSCommand1_Click() {

@@ -117,11 +117,21 @@ const std::vector<MenuRow>& menuTable() {
 
 const std::vector<ToolbarRow>& toolbarTable() {
     static const std::vector<ToolbarRow> table = {
-        {"New", "New Skin"},   {"Open", "Open Skin"}, {"Save", "Save Skin"},
-        {"", ""},              {"Print", "Print Skin"}, {"", ""},
-        {"Cut", "Cut"},        {"Copy", "Copy"},      {"Paste", "Paste"},
-        {"", ""},              {"Bold", "Bold"},      {"Italic", "Italic"},
-        {"Underline", "Underline"}, {"", ""},         {"Font", "Change/Select Font"},
+        {"New", "New Skin"},
+        {"Open", "Open Skin"},
+        {"Save", "Save Skin"},
+        {"", ""},
+        {"Print", "Print Skin"},
+        {"", ""},
+        {"Cut", "Cut"},
+        {"Copy", "Copy"},
+        {"Paste", "Paste"},
+        {"", ""},
+        {"Bold", "Bold"},
+        {"Italic", "Italic"},
+        {"Underline", "Underline"},
+        {"", ""},
+        {"Font", "Change/Select Font"},
     };
     return table;
 }

@@ -44,7 +44,8 @@ void FrmMain::Get_PCX() {
         const int64_t fileLength = Files.LOF(1);
         // The decoder's cells run to L + 1000; those no byte was read into hold 0.
         vb::checkAllocation(static_cast<std::size_t>(fileLength + 1001), 1);
-        const std::vector<uint8_t> file = Files.GetBytes(1, 1, static_cast<std::size_t>(fileLength));
+        const std::vector<uint8_t> file =
+            Files.GetBytes(1, 1, static_cast<std::size_t>(fileLength));
         const PcxLayout layout = parsePcx(file);
         const int64_t W = layout.width, Ymax = layout.ymax;
 
@@ -69,7 +70,8 @@ void FrmMain::Get_PCX() {
         // got through, since a failed one shows nothing.
         const platform::PictureHandle shown = Picture4.Image();
         const bool covered = shown->width <= W && shown->height * W <= decoded.end;
-        platform::Raster image = covered ? platform::Raster(shown->width, shown->height, 0) : *shown;
+        platform::Raster image =
+            covered ? platform::Raster(shown->width, shown->height, 0) : *shown;
         paintDecoded(grid, decoded, values, image);
         Picture4.Picture = std::make_shared<const platform::Raster>(std::move(image));
         picture1.Picture = Picture4.Image();

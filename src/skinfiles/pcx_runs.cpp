@@ -19,7 +19,8 @@ ValueColors valueColors(const vb::Array<PalRecord>& table) {
         values.hasRecord[v] = record.Index == static_cast<int>(v);
         try {
             if (values.hasRecord[v])
-                values.color[v] = static_cast<uint32_t>(vb::RGB(record.Red, record.Green, record.Blue));
+                values.color[v] =
+                    static_cast<uint32_t>(vb::RGB(record.Red, record.Green, record.Blue));
         } catch (const vb::Error&) {
             values.unpackable[v] = true;
         }
@@ -49,10 +50,13 @@ inline void widenPixels(const uint8_t* from, int16_t* to, int64_t count) {
     do {
 #if defined(__SSE2__)
         const __m128i x = _mm_loadu_si128(reinterpret_cast<const __m128i*>(from + k));
-        _mm_storeu_si128(reinterpret_cast<__m128i*>(to + k), _mm_unpacklo_epi8(x, _mm_setzero_si128()));
-        _mm_storeu_si128(reinterpret_cast<__m128i*>(to + k + 8), _mm_unpackhi_epi8(x, _mm_setzero_si128()));
+        _mm_storeu_si128(reinterpret_cast<__m128i*>(to + k),
+                         _mm_unpacklo_epi8(x, _mm_setzero_si128()));
+        _mm_storeu_si128(reinterpret_cast<__m128i*>(to + k + 8),
+                         _mm_unpackhi_epi8(x, _mm_setzero_si128()));
 #else
-        for (int64_t j = 0; j < kSpan; ++j) to[k + j] = from[k + j];
+        for (int64_t j = 0; j < kSpan; ++j)
+            to[k + j] = from[k + j];
 #endif
         k += kSpan;
     } while (k < count);
@@ -77,7 +81,8 @@ inline uint64_t markerBits(const uint8_t* block) {
         bits |= uint64_t{top & next} << (16 * k);
     }
 #else
-    for (int i = 0; i < 64; ++i) bits |= uint64_t{block[i] > 191} << i;
+    for (int i = 0; i < 64; ++i)
+        bits |= uint64_t{block[i] > 191} << i;
 #endif
     return bits;
 }
@@ -226,7 +231,8 @@ void paintDecoded(const RunGrid& grid, const RunsDecoded& decoded, const ValueCo
         uint32_t* out = image.px.data() + y * image.width;
         const int16_t* in = grid.cells + rowCell;
         std::fill_n(out, black, 0u);
-        for (int64_t x = black; x < written; ++x) out[x] = values.color[static_cast<uint8_t>(in[x])];
+        for (int64_t x = black; x < written; ++x)
+            out[x] = values.color[static_cast<uint8_t>(in[x])];
     }
 }
 

@@ -46,25 +46,33 @@ struct EscapeShuffles {
                 pattern[mask][at++] = static_cast<uint8_t>(i);
             }
             length[mask] = static_cast<uint8_t>(at);
-            while (at < 16) pattern[mask][at++] = 0x80; // zero
+            while (at < 16)
+                pattern[mask][at++] = 0x80; // zero
         }
     }
 };
 
-__attribute__((target("ssse3"))) uint8_t* putCellsVector(uint8_t* out, const int16_t* in, int64_t count) {
+__attribute__((target("ssse3"))) uint8_t* putCellsVector(uint8_t* out, const int16_t* in,
+                                                         int64_t count) {
     static const EscapeShuffles shuffles;
-    const __m128i low = _mm_set1_epi16(191), high = _mm_set1_epi16(255), escape = _mm_set1_epi16(0xC1);
+    const __m128i low = _mm_set1_epi16(191), high = _mm_set1_epi16(255),
+                  escape = _mm_set1_epi16(0xC1);
     int64_t k = 0;
     for (; k + 8 <= count; k += 8) {
         const __m128i v = _mm_loadu_si128(reinterpret_cast<const __m128i*>(in + k));
-        const __m128i hole = _mm_or_si128(_mm_cmpgt_epi16(v, high), _mm_cmplt_epi16(v, _mm_setzero_si128()));
-        const __m128i bytes = _mm_packus_epi16(_mm_andnot_si128(hole, v), escape); // 8 bytes, 8 x 0xC1
-        const int mask = _mm_movemask_epi8(_mm_packs_epi16(_mm_cmpgt_epi16(v, low), _mm_setzero_si128()));
-        const __m128i shuffle = _mm_load_si128(reinterpret_cast<const __m128i*>(shuffles.pattern[mask]));
+        const __m128i hole =
+            _mm_or_si128(_mm_cmpgt_epi16(v, high), _mm_cmplt_epi16(v, _mm_setzero_si128()));
+        const __m128i bytes =
+            _mm_packus_epi16(_mm_andnot_si128(hole, v), escape); // 8 bytes, 8 x 0xC1
+        const int mask =
+            _mm_movemask_epi8(_mm_packs_epi16(_mm_cmpgt_epi16(v, low), _mm_setzero_si128()));
+        const __m128i shuffle =
+            _mm_load_si128(reinterpret_cast<const __m128i*>(shuffles.pattern[mask]));
         _mm_storeu_si128(reinterpret_cast<__m128i*>(out), _mm_shuffle_epi8(bytes, shuffle));
         out += shuffles.length[mask]; // a table: without the popcnt instruction a count is a call
     }
-    for (; k < count; ++k) out = putCell(out, in[k]);
+    for (; k < count; ++k)
+        out = putCell(out, in[k]);
     return out;
 }
 #endif
@@ -73,7 +81,8 @@ uint8_t* putCells(uint8_t* out, const int16_t* in, int64_t count) {
 #if defined(__x86_64__) && defined(__GNUC__)
     if (__builtin_cpu_supports("ssse3")) return putCellsVector(out, in, count);
 #endif
-    for (int64_t k = 0; k < count; ++k) out = putCell(out, in[k]);
+    for (int64_t k = 0; k < count; ++k)
+        out = putCell(out, in[k]);
     return out;
 }
 
@@ -92,7 +101,8 @@ void appendPixels(std::vector<uint8_t>& file, const vb::Array<int16_t>& grid, in
     file.reserve(at + most + std::size_t{768}); // the palette follows
     file.resize(at + most);
     uint8_t* out = putCells(file.data() + at, in, cells);
-    for (int64_t k = cells; k < count; ++k) out = putCell(out, last);
+    for (int64_t k = cells; k < count; ++k)
+        out = putCell(out, last);
     file.resize(static_cast<std::size_t>(out - file.data()));
 }
 
@@ -143,7 +153,8 @@ void FrmMain::ex_Click() {
 
     // Built in memory, byte for byte as the one-byte-at-a-time writer puts them.
     std::vector<uint8_t> file;
-    for (int k = 1; k <= 128; ++k) file.push_back(PCX_Header(k));
+    for (int k = 1; k <= 128; ++k)
+        file.push_back(PCX_Header(k));
     vb::resume([&] {
         const double width = Skin_Width.num(), height = Skin_Height.num();
         const int64_t w = width > 0 ? static_cast<int64_t>(vb::roundHalfEven(width)) : 0;

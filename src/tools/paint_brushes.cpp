@@ -69,12 +69,8 @@ void FrmMain::setBrushSize(bool ninePixels) {
 
 // Meant: each item decides from its own mark, so choosing the size already in force
 // switches to the other size.
-void FrmMain::p1_Click() {
-    setBrushSize(p1.Checked);
-}
+void FrmMain::p1_Click() { setBrushSize(p1.Checked); }
 
-void FrmMain::p9_Click() {
-    setBrushSize(!p9.Checked);
-}
+void FrmMain::p9_Click() { setBrushSize(!p9.Checked); }
 
 } // namespace tavrin

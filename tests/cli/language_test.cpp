@@ -26,7 +26,8 @@ TEST(ScriptLanguage, TokensCommentsAndValuesAsTheyAreWritten) {
         // A dynamic value keeps the kind it was written in; fractions print in their
         // shortest exact form.
         {"set Tool_Mode \"5\"\nprint Tool_Mode\nset Tool_Mode True\nprint Tool_Mode\n"
-         "set Tool_Mode Empty\nprint Tool_Mode\nset Tool_Mode 0.30000000000000004\nprint Tool_Mode\n"
+         "set Tool_Mode Empty\nprint Tool_Mode\nset Tool_Mode 0.30000000000000004\nprint "
+         "Tool_Mode\n"
          "set Tool_Mode 70000\nprint Tool_Mode\n",
          "Tool_Mode=\"5\"\nTool_Mode=True\nTool_Mode=Empty\nTool_Mode=0.30000000000000004\n"
          "Tool_Mode=70000\n"},
@@ -48,21 +49,45 @@ TEST(ScriptLanguage, TokensCommentsAndValuesAsTheyAreWritten) {
 TEST(ScriptLanguage, BadLinesAndUnknownNamesStopWithStatus2AndTheirLineNumber) {
     const char* bad[] = {
         // quotes: not closed, an unknown escape, one inside a token, no blank after one
-        "print \"Skin_Rows", "set File_Name \"a\\nb\"", "set File_Name ab\"c\"",
+        "print \"Skin_Rows",
+        "set File_Name \"a\\nb\"",
+        "set File_Name ab\"c\"",
         "set File_Name \"ab\"c",
         // values out of a field's range, at either end and in hex
-        "set Skin_Rows 32768", "set Brush_Size -32769", "set PCX_Header 1 256",
-        "set Near_Color 2147483648", "set Cur_Color 0x100000000", "key Text5 256",
+        "set Skin_Rows 32768",
+        "set Brush_Size -32769",
+        "set PCX_Header 1 256",
+        "set Near_Color 2147483648",
+        "set Cur_Color 0x100000000",
+        "key Text5 256",
         // a fraction in a whole-number field, words and forms that are no value
-        "set Skin_Rows 1.5", "set Scale_X Zoom", "set Tool_Mode 1e3", "set Fill_Rect true",
+        "set Skin_Rows 1.5",
+        "set Scale_X Zoom",
+        "set Tool_Mode 1e3",
+        "set Fill_Rect true",
         // no such command, a missing argument, an index on a single value or none on an array
-        "frobnicate", "print", "print Skin_Rows 3", "print Skin_Grid",
-        "answer msgbox maybe", "mouse hover 1 0 3 4", "palette move 1 0 3 4", "mouse down 1 0 3",
+        "frobnicate",
+        "print",
+        "print Skin_Rows 3",
+        "print Skin_Grid",
+        "answer msgbox maybe",
+        "mouse hover 1 0 3 4",
+        "palette move 1 0 3 4",
+        "mouse down 1 0 3",
         // names that are no field, procedure, control or property of that kind
-        "print No_Such_Field", "bounds Skin_Rows", "set Pal_Table 5 1", "call No_Such_Proc",
-        "call paletteChanged", "click NoSuchControl", "click tbToolBar.NoSuchKey",
-        "print SSPanel1.NoSuchProperty", "print SSPanel1.Point 1 1", "type SSPanel1 \"x\"",
-        "click frmPrint", "dump picture SSPanel1 /tmp/never.ppm", "grip NoSuchGrip 5 5",
+        "print No_Such_Field",
+        "bounds Skin_Rows",
+        "set Pal_Table 5 1",
+        "call No_Such_Proc",
+        "call paletteChanged",
+        "click NoSuchControl",
+        "click tbToolBar.NoSuchKey",
+        "print SSPanel1.NoSuchProperty",
+        "print SSPanel1.Point 1 1",
+        "type SSPanel1 \"x\"",
+        "click frmPrint",
+        "dump picture SSPanel1 /tmp/never.ppm",
+        "grip NoSuchGrip 5 5",
         "drop Picture2 1 1",
     };
     for (const char* line : bad) {

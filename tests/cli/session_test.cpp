@@ -18,18 +18,21 @@ TEST(DriverSession, WholeRunsPrintWhatTheyShowAndEndWithStatus0) {
         const char* errHas = "";
     };
     const Case cases[] = {
-        {"exit answered no, then yes", "answer msgbox no\nclick Exit\nprint Skin_Rows\n"
-         "answer msgbox yes\nclick Exit\nprint Skin_Rows\n", "", false,
+        {"exit answered no, then yes",
+         "answer msgbox no\nclick Exit\nprint Skin_Rows\n"
+         "answer msgbox yes\nclick Exit\nprint Skin_Rows\n",
+         "", false,
          "msgbox \"Exit Tavrin?\" style=4 -> no\nSkin_Rows=0\n"
          "msgbox \"Exit Tavrin?\" style=4 -> yes\nend\n"},
-        {"the start form's quit", "click frmSplash.SSCommand2\nprint Skin_Rows\n", "", false, "end\n"},
+        {"the start form's quit", "click frmSplash.SSCommand2\nprint Skin_Rows\n", "", false,
+         "end\n"},
         {"no palette file", "print Pal_Path\n", "--app-dir " + shellQuote(empty.path().string()),
          false,
          "msgbox \"Path/File not found, or not a valid file.\" style=0 -> ok\n"
-         "Pal_Path=\"" + empty.path().string() + "/Quake2.PAL\"\n"},
+         "Pal_Path=\"" +
+             empty.path().string() + "/Quake2.PAL\"\n"},
         {"trace, on standard input", "# note\nprint Skin_Rows\n  bounds Skin_Grid\n", "--trace",
-         true,
-         "> print Skin_Rows\nSkin_Rows=0\n>   bounds Skin_Grid\nSkin_Grid=unallocated\n"},
+         true, "> print Skin_Rows\nSkin_Rows=0\n>   bounds Skin_Grid\nSkin_Grid=unallocated\n"},
         // The window drops an editor error that no procedure trapped, and goes on.
         {"editor errors", "print Skin_Grid 57\nprint Pal_Table 901\nprint Skin_Rows\n", "", false,
          "Skin_Rows=0\n", "line 2: editor error 9"},

@@ -26,7 +26,8 @@ TEST_F(Lifecycle, FormLoadSetsTheToolsStartingValues) {
     EXPECT_EQ(frm.Wire_Color, 15);
     EXPECT_EQ(frm.Cur_Color, frm.Picture3.BackColor.get());
     EXPECT_EQ(frm.Cur_Color, 0);
-    EXPECT_EQ(frm.Text1.Text.get() + "," + frm.Text2.Text.get() + "," + frm.Text3.Text.get(), "0,0,0");
+    EXPECT_EQ(frm.Text1.Text.get() + "," + frm.Text2.Text.get() + "," + frm.Text3.Text.get(),
+              "0,0,0");
 }
 
 TEST_F(Lifecycle, WithoutThePaletteFileTheMessageShowsAndTheRestOfFormLoadRuns) {

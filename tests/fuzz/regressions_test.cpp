@@ -33,14 +33,16 @@ struct Editor {
     }
     std::string replay(const fuzz::Target& target, const fs::path& file) {
         const Bytes bytes = readFile(file.string());
-        return fuzz::replay(frm, host, target, fuzz::Input{file.string(), bytes.data(), bytes.size()},
+        return fuzz::replay(frm, host, target,
+                            fuzz::Input{file.string(), bytes.data(), bytes.size()},
                             TAVRIN_TEST_DATA);
     }
 };
 
 TEST(FuzzRegressions, EveryFoundInputEndsInItsCommandsOwnBehaviour) {
     for (const fuzz::Target* target : fuzz::kTargets) {
-        for (const fs::path& file : filesIn(fs::path(TAVRIN_TEST_DATA) / "regressions" / target->name)) {
+        for (const fs::path& file :
+             filesIn(fs::path(TAVRIN_TEST_DATA) / "regressions" / target->name)) {
             Editor editor;
             std::string fault;
             EXPECT_NO_THROW(fault = editor.replay(*target, file)) << file;
@@ -54,7 +56,8 @@ TEST(FuzzRegressions, EveryFoundInputEndsInItsCommandsOwnBehaviour) {
 TEST(FuzzRegressions, EachTargetTakesItsGoodFile) {
     for (const fuzz::Target* target : fuzz::kTargets) {
         Editor editor;
-        EXPECT_EQ(editor.replay(*target, fs::path(TAVRIN_TEST_DATA) / target->goodFile), "") << target->name;
+        EXPECT_EQ(editor.replay(*target, fs::path(TAVRIN_TEST_DATA) / target->goodFile), "")
+            << target->name;
         if (target != &fuzz::kMd2Frame) continue;
         for (auto [x, y] : {std::pair{2, 2}, {29, 2}, {15, 21}, {2, 21}, {29, 21}})
             EXPECT_EQ(editor.frm.Skin_Grid(y * 32 + x), 15);

@@ -18,21 +18,39 @@ struct Md2 {
         const std::size_t stAt = 68 + 64, trisAt = stAt + 4 * st.size();
         Bytes out(trisAt + 12 * tris.size());
         auto put = [&](std::size_t at, int32_t v, int width) {
-            for (int k = 0; k < width; ++k) out[at + k] = static_cast<uint8_t>(v >> (8 * k));
+            for (int k = 0; k < width; ++k)
+                out[at + k] = static_cast<uint8_t>(v >> (8 * k));
         };
-        const int32_t header[17] = {0x32504449, 8, skinWidth, skinHeight, 0, 1, 3,
+        const int32_t header[17] = {0x32504449,
+                                    8,
+                                    skinWidth,
+                                    skinHeight,
+                                    0,
+                                    1,
+                                    3,
                                     numSt >= 0 ? numSt : static_cast<int32_t>(st.size()),
-                                    numTris >= 0 ? numTris : static_cast<int32_t>(tris.size()), 0, 1, 68,
-                                    int32_t(stAt), int32_t(trisAt), 68, 68, int32_t(out.size())};
-        for (int k = 0; k < 17; ++k) put(4 * k, header[k], 4);
-        for (std::size_t i = 0; i < st.size(); ++i) put(stAt + 4 * i, st[i][0], 2), put(stAt + 4 * i + 2, st[i][1], 2);
+                                    numTris >= 0 ? numTris : static_cast<int32_t>(tris.size()),
+                                    0,
+                                    1,
+                                    68,
+                                    int32_t(stAt),
+                                    int32_t(trisAt),
+                                    68,
+                                    68,
+                                    int32_t(out.size())};
+        for (int k = 0; k < 17; ++k)
+            put(4 * k, header[k], 4);
+        for (std::size_t i = 0; i < st.size(); ++i)
+            put(stAt + 4 * i, st[i][0], 2), put(stAt + 4 * i + 2, st[i][1], 2);
         for (std::size_t i = 0; i < tris.size(); ++i)
-            for (int k = 0; k < 3; ++k) put(trisAt + 12 * i + 6 + 2 * k, tris[i][k], 2);
+            for (int k = 0; k < 3; ++k)
+                put(trisAt + 12 * i + 6 + 2 * k, tris[i][k], 2);
         return out;
     }
 };
 
-inline const std::string kLoadProblem = "There was a problem loading the file. Check the filename and/or format.";
+inline const std::string kLoadProblem =
+    "There was a problem loading the file. Check the filename and/or format.";
 
 struct ModelTest : EditorTest {
     void SetUp() override {

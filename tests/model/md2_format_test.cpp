@@ -16,7 +16,8 @@ void put16(Bytes& b, std::size_t at, int16_t v) { std::memcpy(&b[at], &v, 2); }
 TEST(Md2Format, HeaderFieldsAndAFileThatEndsInsideThem) {
     Bytes b(56, 0);
     const int32_t fields[] = {0x32504449, 8, 64, 48, 3, 0, 0, 0, 0, 2, 0, 68, 100, 200};
-    for (std::size_t k = 0; k < 14; ++k) put32(b, 4 * k, fields[k]);
+    for (std::size_t k = 0; k < 14; ++k)
+        put32(b, 4 * k, fields[k]);
     Md2Header h;
     readMd2Header(vb::ByteWindow::whole(b), h);
     EXPECT_EQ(h.ident, 0x32504449);

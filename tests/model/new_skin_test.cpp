@@ -11,17 +11,20 @@ namespace {
 using NewSkin = ModelTest;
 
 int countOf(FrmMain& frm, int16_t v) {
-    return static_cast<int>(std::count(frm.Skin_Grid.data(), frm.Skin_Grid.data() + frm.Skin_Grid.size(), v));
+    return static_cast<int>(
+        std::count(frm.Skin_Grid.data(), frm.Skin_Grid.data() + frm.Skin_Grid.size(), v));
 }
 
 TEST_F(NewSkin, BlackSkinWithTheMeshInWhiteAndAGridOf0And15) {
-    const std::string path = write(Md2{.skinWidth = 20, .skinHeight = 12, .st = {{1, 1}, {10, 1}, {1, 8}}, .tris = {{0, 1, 2}}});
+    const std::string path = write(Md2{
+        .skinWidth = 20, .skinHeight = 12, .st = {{1, 1}, {10, 1}, {1, 8}}, .tris = {{0, 1, 2}}});
     newSkin(path);
     EXPECT_EQ(lastMessage().substr(0, 16), "Tavrin Recommend");
     EXPECT_EQ(frm.Skin_Width.str() + "x" + frm.Skin_Height.str(), "20x12");
     EXPECT_EQ(frm.Skin_Grid.UBound(), 20 * 12 + 1000);
     EXPECT_EQ(frm.picture1.Point(5, 1), 0xFFFFFF);
-    for (auto [x, y] : {std::pair{1, 1}, {5, 1}, {10, 1}, {1, 8}, {1, 4}}) EXPECT_EQ(frm.Skin_Grid(y * 20 + x), 15);
+    for (auto [x, y] : {std::pair{1, 1}, {5, 1}, {10, 1}, {1, 8}, {1, 4}})
+        EXPECT_EQ(frm.Skin_Grid(y * 20 + x), 15);
     EXPECT_EQ(countOf(frm, 15), 10 + 10 + 8 - 3); // three edges, shared corners once
     EXPECT_EQ(sizeBytes(), (std::vector<int>{19, 0, 11, 0}));
     // The model is dropped; the editor stands as after a PCX load.
@@ -31,7 +34,8 @@ TEST_F(NewSkin, BlackSkinWithTheMeshInWhiteAndAGridOf0And15) {
     EXPECT_EQ(frm.StatusBar1.Panels(1).Text.get(), "Ready");
     EXPECT_EQ(frm.Picture7.Point(10, 1), 0xFFFFFF);
     // The scan leaves the colour of the last pixel it read, a line's here.
-    newSkin(write(Md2{.skinWidth = 6, .skinHeight = 4, .st = {{0, 0}, {5, 3}}, .tris = {{0, 1, 1}}}));
+    newSkin(
+        write(Md2{.skinWidth = 6, .skinHeight = 4, .st = {{0, 0}, {5, 3}}, .tris = {{0, 1, 1}}}));
     EXPECT_EQ(frm.Cur_Color, 0xFFFFFF);
 }
 
@@ -41,11 +45,13 @@ TEST_F(NewSkin, ReaderTakesWhatTheFileSaysUpToItsTables) {
     EXPECT_EQ(countOf(frm, 0), 7 * 5 + 1001);
     // Corner indices that no record filled read (0, 0), up to the tables' last record.
     newSkin(write(Md2{.st = {{6, 6}}, .tris = {{0, 10000, 5}}}));
-    for (int at : {0, 3 * 16 + 3, 6 * 16 + 6}) EXPECT_EQ(frm.Skin_Grid(at), 15);
+    for (int at : {0, 3 * 16 + 3, 6 * 16 + 6})
+        EXPECT_EQ(frm.Skin_Grid(at), 15);
     newSkin(write(Md2{.numTris = 10001})); // missing records are zeros
     EXPECT_EQ(frm.Skin_Grid(0), 15);
-    for (Md2 bad : {Md2{.numTris = 10002}, Md2{.numSt = 10002}, Md2{.st = {{1, 1}}, .tris = {{0, 0, 10001}}},
-                    Md2{.st = {{1, 1}}, .tris = {{0, -1, 0}}}, Md2{.skinWidth = -5}}) {
+    for (Md2 bad :
+         {Md2{.numTris = 10002}, Md2{.numSt = 10002}, Md2{.st = {{1, 1}}, .tris = {{0, 0, 10001}}},
+          Md2{.st = {{1, 1}}, .tris = {{0, -1, 0}}}, Md2{.skinWidth = -5}}) {
         newSkin(write(bad));
         EXPECT_EQ(lastMessage(), kLoadProblem);
         EXPECT_EQ(frm.Tri_Table.UBound(), 0);
@@ -69,14 +75,17 @@ TEST_F(NewSkin, ReaderTakesWhatTheFileSaysUpToItsTables) {
 }
 
 TEST_F(NewSkin, SizeBytesFollowTheTwoWidthRules) {
-    for (auto [w, h, bytes] : {std::tuple{256, 10, std::vector{255, 0, 9, 0}}, {257, 300, {0, 1, 43, 1}},
-                               {300, 2, {43, 1, 1, 0}}, {512, 1, {255, 1, 0, 0}}}) {
+    for (auto [w, h, bytes] : {std::tuple{256, 10, std::vector{255, 0, 9, 0}},
+                               {257, 300, {0, 1, 43, 1}},
+                               {300, 2, {43, 1, 1, 0}},
+                               {512, 1, {255, 1, 0, 0}}}) {
         newSkin(write(Md2{.skinWidth = w, .skinHeight = h}));
         EXPECT_EQ(sizeBytes(), bytes) << w;
     }
     // Wider than 512 fails after the picture is shown: the grid is made but never filled,
     // and the hourglass stays up.
-    newSkin(write(Md2{.skinWidth = 513, .skinHeight = 4, .st = {{1, 1}, {9, 1}}, .tris = {{0, 1, 1}}}));
+    newSkin(
+        write(Md2{.skinWidth = 513, .skinHeight = 4, .st = {{1, 1}, {9, 1}}, .tris = {{0, 1, 1}}}));
     EXPECT_EQ(lastMessage(), kLoadProblem);
     EXPECT_TRUE(frm.Picture7.Visible);
     EXPECT_EQ(frm.picture1.Point(5, 1), 0xFFFFFF);
@@ -110,9 +119,11 @@ TEST_F(NewSkin, RealModels) {
             ++tooWide;
             continue;
         }
-        ASSERT_EQ(frm.Skin_Width.str() + "x" + frm.Skin_Height.str(), std::to_string(w) + "x" + std::to_string(h));
+        ASSERT_EQ(frm.Skin_Width.str() + "x" + frm.Skin_Height.str(),
+                  std::to_string(w) + "x" + std::to_string(h));
         EXPECT_EQ(countOf(frm, 0) + countOf(frm, 15), w * h + 1001);
-        EXPECT_TRUE(std::all_of(frm.Skin_Grid.data() + w * h, frm.Skin_Grid.data() + frm.Skin_Grid.size(),
+        EXPECT_TRUE(std::all_of(frm.Skin_Grid.data() + w * h,
+                                frm.Skin_Grid.data() + frm.Skin_Grid.size(),
                                 [](int16_t v) { return v == 0; }));
         for (int t = 0; t < tris * 3; ++t) {
             const int st = ofsSt + 4 * i16(ofsTris + 12 * (t / 3) + 6 + 2 * (t % 3));

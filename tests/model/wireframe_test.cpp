@@ -18,8 +18,10 @@ struct Wireframe : ModelTest {
         frm.wFc_Click();
     }
     bool edgeShown(double z) { // the top edge at zoom z, and nothing beside it
-        bool all = frm.Picture7.Point(20 * z, 10 * z) == 0 && frm.Picture7.Point(4 * z, 30 * z) == kRed;
-        for (int x = 4; x <= 40; ++x) all = all && frm.Picture7.Point(x * z, 4 * z) == kRed;
+        bool all =
+            frm.Picture7.Point(20 * z, 10 * z) == 0 && frm.Picture7.Point(4 * z, 30 * z) == kRed;
+        for (int x = 4; x <= 40; ++x)
+            all = all && frm.Picture7.Point(x * z, 4 * z) == kRed;
         return all;
     }
     bool edgeGone() { return frm.Picture7.Point(20 * frm.Zoom_Factor, 4 * frm.Zoom_Factor) == 0; }

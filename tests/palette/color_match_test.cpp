@@ -23,7 +23,8 @@ Bytes smallPalette(std::initializer_list<std::array<uint8_t, 3>> colours) {
     Bytes b(768, 255);
     std::size_t k = 0;
     for (const auto& c : colours)
-        for (uint8_t part : c) b[k++] = part;
+        for (uint8_t part : c)
+            b[k++] = part;
     return b;
 }
 
@@ -40,10 +41,12 @@ std::string fields(const FrmMain& frm) {
     vb::Variant index = frm.Color_Index;
     if (plain.indexSet) index = plain.index;
     const std::string expected = std::to_string(plain.checkColor) + " " + index.repr() + " " +
-                                 std::to_string(plain.nearColor) + " " + std::to_string(plain.nearDistance);
+                                 std::to_string(plain.nearColor) + " " +
+                                 std::to_string(plain.nearDistance);
     check(frm, colour);
     if (fields(frm) == expected) return ::testing::AssertionSuccess();
-    return ::testing::AssertionFailure() << "colour " << colour << ": " << fields(frm) << " vs " << expected;
+    return ::testing::AssertionFailure()
+           << "colour " << colour << ": " << fields(frm) << " vs " << expected;
 }
 
 TEST_F(TempColorCheck, TiesGoToTheLowerRecordAndTheNearestSoFarIsLeftBehind) {
@@ -118,7 +121,8 @@ TEST_F(TempColorCheck, CachedAnswersEqualThePlainScanAcrossPaletteChanges) {
                         ASSERT_TRUE(sameAsPlainScan(frm, -1));
                     }
                 }
-        for (int n = 0; n < 258; ++n) ASSERT_TRUE(sameAsPlainScan(frm, recordColour(frm, n)));
+        for (int n = 0; n < 258; ++n)
+            ASSERT_TRUE(sameAsPlainScan(frm, recordColour(frm, n)));
     };
     Bytes game = gamePalette();
     loadPalette(game);

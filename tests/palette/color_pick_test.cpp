@@ -28,7 +28,8 @@ TEST_F(ColorPick, PaletteClickSetsTheColourAndMovesOneMarker) {
 
 TEST_F(ColorPick, EveryPickFindsTheCellsNeighboursAlongItsRow) {
     pick(40);
-    EXPECT_EQ((std::vector<int32_t>{frm.Prior_Color_2, frm.Prior_Color_1, frm.Next_Color_1, frm.Next_Color_2}),
+    EXPECT_EQ((std::vector<int32_t>{frm.Prior_Color_2, frm.Prior_Color_1, frm.Next_Color_1,
+                                    frm.Next_Color_2}),
               (std::vector<int32_t>{colourOf(38), colourOf(39), colourOf(41), colourOf(42)}));
     pick(47); // the row's last cell: past it lies only the marker's edge
     EXPECT_EQ(frm.Next_Color_1, colourOf(47) ^ 0xFFFFFF);

@@ -26,11 +26,13 @@ TEST(RawPalette, PassesEndAfterTheBlueByteRunsPastTheEnd) {
 
 TEST(RawPalette, AtMost259ColoursAndNoStartBeforeTheFile) {
     Bytes big(3000);
-    for (std::size_t k = 0; k < big.size(); ++k) big[k] = static_cast<uint8_t>(k);
+    for (std::size_t k = 0; k < big.size(); ++k)
+        big[k] = static_cast<uint8_t>(k);
     const std::vector<Rgb> colors = read(big, 4);
     ASSERT_EQ(colors.size(), 259u);
-    EXPECT_EQ(colors[258], (Rgb{static_cast<uint8_t>(3 + 3 * 258), static_cast<uint8_t>(4 + 3 * 258),
-                                static_cast<uint8_t>(5 + 3 * 258)}));
+    EXPECT_EQ(colors[258],
+              (Rgb{static_cast<uint8_t>(3 + 3 * 258), static_cast<uint8_t>(4 + 3 * 258),
+                   static_cast<uint8_t>(5 + 3 * 258)}));
     // The tail of a file shorter than 768 bytes starts before its first byte.
     EXPECT_THROW(read({1, 2, 3}, 0), vb::Error);
     EXPECT_THROW(read({1, 2, 3}, -764), vb::Error);

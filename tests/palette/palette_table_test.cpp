@@ -11,7 +11,9 @@ Bytes patterned(std::size_t count) {
 
 using GetPal = EditorTest;
 
-std::vector<int> fieldsOf(const PalRecord& r) { return {r.Red, r.Green, r.Blue, r.Index, r.Cell_X, r.Cell_Y}; }
+std::vector<int> fieldsOf(const PalRecord& r) {
+    return {r.Red, r.Green, r.Blue, r.Index, r.Cell_X, r.Cell_Y};
+}
 
 // Every record as numbers, to see that a failed read changed nothing.
 std::vector<int> table(const FrmMain& frm) {
@@ -26,7 +28,8 @@ std::vector<int> table(const FrmMain& frm) {
 // index -1: the record's own number.
 void expectRecord(const FrmMain& frm, int n, int red, int green, int blue, int cellX, int cellY,
                   int index = -1) {
-    EXPECT_EQ(fieldsOf(frm.Pal_Table(n)), (std::vector<int>{red, green, blue, index < 0 ? n : index, cellX, cellY}))
+    EXPECT_EQ(fieldsOf(frm.Pal_Table(n)),
+              (std::vector<int>{red, green, blue, index < 0 ? n : index, cellX, cellY}))
         << "record " << n << ": red, green, blue, index, cell x and y";
 }
 
@@ -40,7 +43,8 @@ TEST_F(GetPal, A768ByteFileFillsTheTableAndPaintsACellForEachColour) {
     Bytes b = patterned(768);
     loadPalette(b);
     EXPECT_TRUE(host.messages().empty());
-    for (int n = 0; n < 256; ++n) expectFromFile(frm, b, n);
+    for (int n = 0; n < 256; ++n)
+        expectFromFile(frm, b, n);
     // The file ends on a whole colour, so one pass more copies the last one, below the grid.
     expectRecord(frm, 256, b[765], b[766], b[767], 0, 176);
     expectRecord(frm, 257, 0, 0, 0, 0, 0, 0); // never written
@@ -59,17 +63,21 @@ TEST_F(GetPal, A768ByteFileFillsTheTableAndPaintsACellForEachColour) {
 TEST_F(GetPal, BytesBehindTheLastWholeColourGoIntoTheNextRecordsAndShortFilesKeepTheRest) {
     Bytes act = patterned(772); // an ACT table with its four trailing bytes
     loadPalette(act, "table.act");
-    for (int n = 0; n < 257; ++n) expectFromFile(frm, act, n);
+    for (int n = 0; n < 257; ++n)
+        expectFromFile(frm, act, n);
     // One byte for record 257: a short read leaves green and blue as they were.
     expectRecord(frm, 257, act[771], act[769], act[770], 11, 176);
 
     Bytes shortFile = patterned(31);
-    for (auto& byte : shortFile) byte = static_cast<uint8_t>(255 - byte);
+    for (auto& byte : shortFile)
+        byte = static_cast<uint8_t>(255 - byte);
     loadPalette(shortFile, "short.pal");
     EXPECT_TRUE(host.messages().empty());
-    for (int n = 0; n < 10; ++n) expectFromFile(frm, shortFile, n);
+    for (int n = 0; n < 10; ++n)
+        expectFromFile(frm, shortFile, n);
     expectRecord(frm, 10, shortFile[30], shortFile[28], shortFile[29], 110, 0);
-    for (int n = 11; n < 257; ++n) expectFromFile(frm, act, n); // not reached: as they were
+    for (int n = 11; n < 257; ++n)
+        expectFromFile(frm, act, n); // not reached: as they were
     expectRecord(frm, 257, act[771], act[769], act[770], 11, 176);
     const PalRecord& kept = frm.Pal_Table(11);
     EXPECT_EQ(frm.Picture2.Point(121 + 5, 5), packed(kept.Red, kept.Green, kept.Blue));
@@ -87,11 +95,13 @@ TEST_F(GetPal, AnswerYesReadsTheLast768BytesOnceAndEmptiesTheAnswer) {
     EXPECT_TRUE(frm.Pal_Answer.isText());
     EXPECT_EQ(frm.Pal_Answer, "");
     Bytes tail(file.end() - 768, file.end());
-    for (int n = 0; n < 256; ++n) expectFromFile(frm, tail, n);
+    for (int n = 0; n < 256; ++n)
+        expectFromFile(frm, tail, n);
     expectRecord(frm, 256, tail[765], tail[766], tail[767], 0, 176);
 
     frm.Get_Pal(); // the emptied answer: from the first byte this time
-    for (int n = 0; n < 258; ++n) expectFromFile(frm, file, n);
+    for (int n = 0; n < 258; ++n)
+        expectFromFile(frm, file, n);
     expectRecord(frm, 258, 99, 0, 0, 0, 0, 0); // no more than 258 colours are kept
 }
 

@@ -35,7 +35,8 @@ struct Box {
 platform::PictureHandle numbered(int w, int h) {
     auto r = std::make_shared<platform::Raster>(w, h, 0u);
     for (int y = 0; y < h; ++y)
-        for (int x = 0; x < w; ++x) r->at(x, y) = static_cast<uint32_t>(x + 16 * y);
+        for (int x = 0; x < w; ++x)
+            r->at(x, y) = static_cast<uint32_t>(x + 16 * y);
     return r;
 }
 
@@ -68,8 +69,10 @@ TEST(PictureBox, LineDrawsALineABoxOrAFilledBoxBothEndsIncluded) {
         bool (*drawn)(int x, int y);
     };
     const Case cases[] = {
-        {"line", 1, 1, 4, 4, platform::kLineKind, [](int x, int y) { return x == y && x >= 1 && x <= 4; }},
-        {"box, corners in any order", 5, 6, 1, 2, platform::kBoxKind, [](int x, int y) {
+        {"line", 1, 1, 4, 4, platform::kLineKind,
+         [](int x, int y) { return x == y && x >= 1 && x <= 4; }},
+        {"box, corners in any order", 5, 6, 1, 2, platform::kBoxKind,
+         [](int x, int y) {
              return x >= 1 && x <= 5 && y >= 2 && y <= 6 && (x == 1 || x == 5 || y == 2 || y == 6);
          }},
         {"filled box", 3, 4, 2, 3, platform::kFilledBoxKind,
@@ -80,7 +83,8 @@ TEST(PictureBox, LineDrawsALineABoxOrAFilledBoxBothEndsIncluded) {
         b.box.Line(c.x1, c.y1, c.x2, c.y2, kRed, c.kind);
         for (int y = 0; y < 8; ++y)
             for (int x = 0; x < 8; ++x)
-                ASSERT_EQ(b.box.Point(x, y), c.drawn(x, y) ? kRed : kGrey) << c.name << " " << x << "," << y;
+                ASSERT_EQ(b.box.Point(x, y), c.drawn(x, y) ? kRed : kGrey)
+                    << c.name << " " << x << "," << y;
     }
 }
 
@@ -113,7 +117,8 @@ TEST(PictureBox, PaintPictureStretchesTheWholeImageOverTheRectangle) {
     PictureBox& p = b.box;
     p.PaintPicture(numbered(3, 2), 0, 0, 9, 6); // three times larger each way
     for (int y = 0; y < 6; ++y)
-        for (int x = 0; x < 9; ++x) EXPECT_EQ(p.Point(x, y), x / 3 + 16 * (y / 3)) << x << "," << y;
+        for (int x = 0; x < 9; ++x)
+            EXPECT_EQ(p.Point(x, y), x / 3 + 16 * (y / 3)) << x << "," << y;
 
     p.Cls();
     p.PaintPicture(numbered(3, 2), 2, 1, 3, 2); // true size, offset
@@ -160,11 +165,12 @@ TEST(PictureBox, ACanvasWithoutAutoRedrawAnswersPointFromWhatWasPainted) {
     Box canvas(40, 30, false), raster(40, 30, true);
     EXPECT_EQ(canvas.box.Point(5, 5), kGrey);
     for (Box* b : {&canvas, &raster}) {
-        b->box.PaintPicture(numbered(7, 5), 0, 0, 40, 30); // not a whole factor
+        b->box.PaintPicture(numbered(7, 5), 0, 0, 40, 30);   // not a whole factor
         b->box.PaintPicture(numbered(3, 3), 30, 20, -9, -9); // mirrored
-        const int lines[][4] = {{0, 0, 39, 29}, {39, 0, 0, 13}, {5, -10, 9, 60},
+        const int lines[][4] = {{0, 0, 39, 29},    {39, 0, 0, 13}, {5, -10, 9, 60},
                                 {-20, 25, 70, 27}, {12, 3, 12, 3}, {33, 29, 2, 1}};
-        for (const auto& l : lines) b->box.Line(l[0], l[1], l[2], l[3], kRed, platform::kLineKind);
+        for (const auto& l : lines)
+            b->box.Line(l[0], l[1], l[2], l[3], kRed, platform::kLineKind);
         b->box.Line(20, 2, 25, 6, kGreen, platform::kBoxKind);
         b->box.Line(26, 8, 28, 9, kGreen, platform::kFilledBoxKind);
         b->box.PSet(1, 28, kGreen);
@@ -196,8 +202,10 @@ TEST(PictureBox, AViewThatRepaintsOnlyTheDamageAlwaysShowsWhatTheBoxShows) {
         Box skin(16, 12), canvas(g.w, g.h, false);
         PictureBox& c = canvas.box;
         auto repaint = [&] {
-            if (g.mirrored) c.PaintPicture(skin.box.Image(), g.w, g.h, -g.w, -g.h);
-            else c.PaintPicture(skin.box.Image(), 0, 0, g.w, g.h);
+            if (g.mirrored)
+                c.PaintPicture(skin.box.Image(), g.w, g.h, -g.w, -g.h);
+            else
+                c.PaintPicture(skin.box.Image(), 0, 0, g.w, g.h);
         };
         const platform::PixelRect all{0, 0, g.w, g.h};
         std::vector<uint32_t> shown(static_cast<std::size_t>(g.w * g.h)), whole(shown.size());
@@ -206,7 +214,9 @@ TEST(PictureBox, AViewThatRepaintsOnlyTheDamageAlwaysShowsWhatTheBoxShows) {
         auto any = [&rng](int n) { return static_cast<int>(rng() % static_cast<unsigned>(n)); };
         for (int step = 0; step < 600; ++step) {
             switch (any(7)) {
-            case 0: held.emplace_back(skin.box.Image(), skin.box.Image()->px); break;
+            case 0:
+                held.emplace_back(skin.box.Image(), skin.box.Image()->px);
+                break;
             case 1:
                 if (!held.empty()) {
                     const auto it = held.begin() + any(static_cast<int>(held.size()));
@@ -214,12 +224,21 @@ TEST(PictureBox, AViewThatRepaintsOnlyTheDamageAlwaysShowsWhatTheBoxShows) {
                     held.erase(it);
                 }
                 break;
-            case 2: skin.box.Line(any(16), any(12), any(16), any(12), any(1 << 24), platform::kFilledBoxKind); break;
-            case 3: c.Line(any(g.w), any(g.h), any(g.w), any(g.h), kGreen, platform::kLineKind); break;
-            case 4: // undo: the picture as a snapshot kept it
-                if (!held.empty()) skin.box.Picture = held[static_cast<std::size_t>(any(static_cast<int>(held.size())))].first;
+            case 2:
+                skin.box.Line(any(16), any(12), any(16), any(12), any(1 << 24),
+                              platform::kFilledBoxKind);
                 break;
-            default: skin.box.PSet(any(16), any(12), any(1 << 24)); break;
+            case 3:
+                c.Line(any(g.w), any(g.h), any(g.w), any(g.h), kGreen, platform::kLineKind);
+                break;
+            case 4: // undo: the picture as a snapshot kept it
+                if (!held.empty())
+                    skin.box.Picture =
+                        held[static_cast<std::size_t>(any(static_cast<int>(held.size())))].first;
+                break;
+            default:
+                skin.box.PSet(any(16), any(12), any(1 << 24));
+                break;
             }
             for (int look = 0; look < 2; ++look) { // before and after the repaint
                 if (look == 1) repaint();
@@ -236,7 +255,8 @@ TEST(PictureBox, AViewThatRepaintsOnlyTheDamageAlwaysShowsWhatTheBoxShows) {
                 const uint32_t xrgb = 0xFF000000u | (p & 0xFF00u) | (p >> 16) | ((p & 0xFFu) << 16);
                 ASSERT_EQ(whole[static_cast<std::size_t>(y * g.w + x)], xrgb) << x << "," << y;
             }
-        for (const auto& [picture, taken] : held) EXPECT_EQ(picture->px, taken);
+        for (const auto& [picture, taken] : held)
+            EXPECT_EQ(picture->px, taken);
     }
 }
 
@@ -251,7 +271,8 @@ TEST(PictureBox, ARepaintAfterOnePixelDamagesExactlyItsStretchedBlock) {
     const platform::PixelRect d = canvas.box.takeDamage();
     for (int y = 0; y < 30; ++y)
         for (int x = 0; x < 40; ++x) {
-            const bool shows = platform::stretchSource(x, 40, 0, 7) == 3 && platform::stretchSource(y, 30, 0, 5) == 2;
+            const bool shows = platform::stretchSource(x, 40, 0, 7) == 3 &&
+                               platform::stretchSource(y, 30, 0, 5) == 2;
             ASSERT_EQ(d.contains(x, y), shows) << x << "," << y;
         }
 }

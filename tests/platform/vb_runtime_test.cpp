@@ -31,16 +31,20 @@ template <class F> int errorOf(F&& fn) {
 TEST(VbNumeric, ConversionsRoundHalfToEvenAndOverflowOutsideTheirRange) {
     const double nan = std::numeric_limits<double>::quiet_NaN();
     // -32768.5 rounds to even, so it still fits.
-    const std::pair<double, int> ints[] = {{1.5, 2},         {2.5, 2},          {-2.5, -2},
-                                           {-3.5, -4},       {2.5000001, 3},    {32767.4, 32767},
+    const std::pair<double, int> ints[] = {{1.5, 2},          {2.5, 2},       {-2.5, -2},
+                                           {-3.5, -4},        {2.5000001, 3}, {32767.4, 32767},
                                            {-32768.5, -32768}};
-    for (auto [v, want] : ints) EXPECT_EQ(vb::CInt(v), want) << v;
-    for (double v : {32767.5, -32769.0, nan}) EXPECT_EQ(errorOf([v] { vb::CInt(v); }), vb::Overflow) << v;
+    for (auto [v, want] : ints)
+        EXPECT_EQ(vb::CInt(v), want) << v;
+    for (double v : {32767.5, -32769.0, nan})
+        EXPECT_EQ(errorOf([v] { vb::CInt(v); }), vb::Overflow) << v;
 
     EXPECT_EQ(vb::CLng(1e9 + 0.5), 1000000000);
     EXPECT_EQ(vb::CLng(-2147483648.5), INT32_MIN);
-    for (double v : {2147483647.5, 1e300}) EXPECT_EQ(errorOf([v] { vb::CLng(v); }), vb::Overflow) << v;
-    for (double v : {255.5, -0.6}) EXPECT_EQ(errorOf([v] { vb::CByte(v); }), vb::Overflow) << v;
+    for (double v : {2147483647.5, 1e300})
+        EXPECT_EQ(errorOf([v] { vb::CLng(v); }), vb::Overflow) << v;
+    for (double v : {255.5, -0.6})
+        EXPECT_EQ(errorOf([v] { vb::CByte(v); }), vb::Overflow) << v;
 
     EXPECT_EQ(vb::wrap16(32767 + 1), -32768);
     EXPECT_EQ(vb::wrap16(-32768 - 1), 32767);
@@ -81,7 +85,8 @@ TEST(VbArray, EveryAccessOutsideTheBoundsOrBeforeAllocationIsSubscriptOutOfRange
 
 TEST(VbArray, AnAllocationAbove256MegabytesIsOutOfMemoryAndAllocatesNothing) {
     EXPECT_EQ(errorOf([] { vb::checkAllocation(vb::kMaxAllocationBytes, 1); }), 0);
-    EXPECT_EQ(errorOf([] { vb::checkAllocation(vb::kMaxAllocationBytes + 1, 1); }), vb::OutOfMemory);
+    EXPECT_EQ(errorOf([] { vb::checkAllocation(vb::kMaxAllocationBytes + 1, 1); }),
+              vb::OutOfMemory);
     EXPECT_EQ(errorOf([] { vb::checkAllocation(std::numeric_limits<std::size_t>::max(), 8); }),
               vb::OutOfMemory);
 

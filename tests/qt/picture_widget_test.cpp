@@ -23,19 +23,22 @@ using platform::PictureBox;
 platform::PictureHandle colours(int w, int h) {
     auto r = std::make_shared<platform::Raster>(w, h, 0u);
     for (int y = 0; y < h; ++y)
-        for (int x = 0; x < w; ++x) r->at(x, y) = static_cast<uint32_t>(x * 0x010305 + y * 0x070B01) & 0xFFFFFFu;
+        for (int x = 0; x < w; ++x)
+            r->at(x, y) = static_cast<uint32_t>(x * 0x010305 + y * 0x070B01) & 0xFFFFFFu;
     return r;
 }
 
 QRgb asShown(int32_t packed) {
     const auto c = static_cast<uint32_t>(packed);
-    return qRgb(static_cast<int>(c & 0xFF), static_cast<int>((c >> 8) & 0xFF), static_cast<int>((c >> 16) & 0xFF));
+    return qRgb(static_cast<int>(c & 0xFF), static_cast<int>((c >> 8) & 0xFF),
+                static_cast<int>((c >> 16) & 0xFF));
 }
 
 struct PaintRects : QObject {
     std::vector<QRect> rects;
     bool eventFilter(QObject*, QEvent* event) override {
-        if (event->type() == QEvent::Paint) rects.push_back(static_cast<QPaintEvent*>(event)->rect());
+        if (event->type() == QEvent::Paint)
+            rects.push_back(static_cast<QPaintEvent*>(event)->rect());
         return false;
     }
 };
@@ -53,7 +56,8 @@ TEST(PictureWidget, ShowsEveryPixelAsPointGivesIt) {
     const QImage shown = widget.grab().toImage();
     ASSERT_EQ(shown.size(), QSize(2100, 2050));
     for (int y = 0; y < 2050; ++y)
-        for (int x = 0; x < 2100; ++x) ASSERT_EQ(shown.pixel(x, y) | 0xFF000000u, asShown(box.Point(x, y))) << x << "," << y;
+        for (int x = 0; x < 2100; ++x)
+            ASSERT_EQ(shown.pixel(x, y) | 0xFF000000u, asShown(box.Point(x, y))) << x << "," << y;
 }
 
 TEST(PictureWidget, AStrokeRepaintsOnlyTheBlockOfThePixelItChanged) {
@@ -106,7 +110,8 @@ TEST(PictureWidget, MouseEventsReachTheHandlersWithTheFormsArguments) {
     // The border takes two pixels each side: widget (12, 7) is the box's (10, 5).
     QTest::mousePress(&widget, Qt::LeftButton, Qt::ShiftModifier, QPoint(12, 7));
     QTest::mouseMove(&widget, QPoint(250, 50)); // beyond the right edge
-    QTest::mouseRelease(&widget, Qt::LeftButton, Qt::ControlModifier | Qt::AltModifier, QPoint(250, 50));
+    QTest::mouseRelease(&widget, Qt::LeftButton, Qt::ControlModifier | Qt::AltModifier,
+                        QPoint(250, 50));
     QTest::mousePress(&widget, Qt::RightButton, Qt::NoModifier, QPoint(2, 2));
 
     ASSERT_GE(seen.size(), 3u);

@@ -46,9 +46,9 @@ TEST_F(CommandSurface, EveryMenuItemComesFromTheTableOnceWithItsOwnShortcut) {
     EXPECT_EQ(menuItemsWhere(frm, [](auto&) { return true; }), inTable);
 
     const std::map<std::string, std::string> shortcuts = {
-        {"Ctrl+Z", "Undo"},     {"Ctrl+I", "ri"},      {"Ctrl+W", "wF"},     {"Ctrl+Q", "mZoom"},
-        {"Ctrl+E", "Eye"},      {"Ctrl+A", "pEdit"},   {"Ctrl+L", "mLine"},  {"Ctrl+F", "mFill"},
-        {"Ctrl+R", "mFrect"},   {"Ctrl+G", "Grf"},     {"Ctrl+P", "Pbrush"}, {"Ctrl+X", "AirBrush"},
+        {"Ctrl+Z", "Undo"},      {"Ctrl+I", "ri"},    {"Ctrl+W", "wF"},     {"Ctrl+Q", "mZoom"},
+        {"Ctrl+E", "Eye"},       {"Ctrl+A", "pEdit"}, {"Ctrl+L", "mLine"},  {"Ctrl+F", "mFill"},
+        {"Ctrl+R", "mFrect"},    {"Ctrl+G", "Grf"},   {"Ctrl+P", "Pbrush"}, {"Ctrl+X", "AirBrush"},
         {"Ctrl+B", "BlurBrush"}, {"Ctrl+T", "tnnt"}};
     EXPECT_EQ(shortcutOwner, shortcuts);
 
@@ -56,9 +56,9 @@ TEST_F(CommandSurface, EveryMenuItemComesFromTheTableOnceWithItsOwnShortcut) {
     EXPECT_EQ(frm.pcxIm.Parent, &frm.im);
     EXPECT_EQ(frm.Pop9.Parent, &frm.bsPop);
     EXPECT_EQ(frm.wiPop.Parent, &frm.Pop);
-    for (const platform::MenuItem* sep : {&frm.space, &frm.space1, &frm.s1, &frm.space2, &frm.s2,
-                                          &frm.s3, &frm.cer1, &frm.s4, &frm.s9, &frm.spacer10,
-                                          &frm.spacer11, &frm.spacer12})
+    for (const platform::MenuItem* sep :
+         {&frm.space, &frm.space1, &frm.s1, &frm.space2, &frm.s2, &frm.s3, &frm.cer1, &frm.s4,
+          &frm.s9, &frm.spacer10, &frm.spacer11, &frm.spacer12})
         EXPECT_TRUE(sep->isSeparator()) << sep->name();
 }
 

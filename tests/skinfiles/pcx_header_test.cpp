@@ -7,7 +7,8 @@ namespace {
 using GetHeader = EditorTest;
 
 TEST_F(GetHeader, TheDefaultHeaderByteForByte) {
-    for (int k = 1; k <= 128; ++k) frm.PCX_Header(k) = 0xEE; // everything is written
+    for (int k = 1; k <= 128; ++k)
+        frm.PCX_Header(k) = 0xEE; // everything is written
     frm.Get_Header();
 
     Bytes expected = {0x0A, 5, 1, 8, 0, 0, 0, 0, 0x1B, 0x01, 0xC2, 0x00, 0x2C, 0x01, 0x2C, 0x01};
@@ -18,7 +19,8 @@ TEST_F(GetHeader, TheDefaultHeaderByteForByte) {
     expected.resize(128, 0);
 
     Bytes header;
-    for (int k = 1; k <= 128; ++k) header.push_back(frm.PCX_Header(k));
+    for (int k = 1; k <= 128; ++k)
+        header.push_back(frm.PCX_Header(k));
     EXPECT_EQ(header, expected);
     EXPECT_EQ(frm.PCX_Header(0), 0); // index k is byte k - 1: index 0 is never used
     EXPECT_THROW(frm.PCX_Header(129), vb::Error);

@@ -38,9 +38,11 @@ struct PcxReader : EditorTest {
         ASSERT_EQ(frm.picture1.innerHeight(), e.ymax + 2) << path;
         for (int y = 0; y < e.ymax + 2; y += 7)
             for (int x = 0; x < e.width - 2; x += 3)
-                ASSERT_EQ(frm.picture1.Point(x, y), colourOf(e.grid[static_cast<std::size_t>(y * e.width + x)]))
+                ASSERT_EQ(frm.picture1.Point(x, y),
+                          colourOf(e.grid[static_cast<std::size_t>(y * e.width + x)]))
                     << path << " at " << x << "," << y;
-        for (int k = 0; k < 128; ++k) ASSERT_EQ(frm.PCX_Header(k + 1), file[static_cast<std::size_t>(k)]);
+        for (int k = 0; k < 128; ++k)
+            ASSERT_EQ(frm.PCX_Header(k + 1), file[static_cast<std::size_t>(k)]);
     }
 };
 
@@ -49,7 +51,8 @@ TEST_F(PcxReader, SmallSkinLoadsWithFillerRowsAndShowsOnTheCanvas) {
     std::vector<uint8_t> px = {1, 1, 1, 1, 1, 2, 3, 200, 200, 200, 200, 4};
     const std::string path = dir.write("small.pcx", encodePcx(4, 3, px, gamePalette()));
     expectLoadedAsRules(path); // 4 x 6 cells and a picture of 2 x 4, zeros behind the data
-    for (std::size_t i = 0; i < px.size(); ++i) EXPECT_EQ(frm.Skin_Grid(static_cast<int>(i)), px[i]);
+    for (std::size_t i = 0; i < px.size(); ++i)
+        EXPECT_EQ(frm.Skin_Grid(static_cast<int>(i)), px[i]);
     EXPECT_EQ(frm.picture1.Point(1, 2), colourOf(200));
     EXPECT_EQ(frm.picture1.Point(0, 3), colourOf(0));
     EXPECT_EQ(frm.Picture7.Point(1, 1), frm.picture1.Point(1, 1));
@@ -80,7 +83,8 @@ TEST_F(PcxReader, PaletteFromTheSkinWhenTheUserSaysYes) {
 }
 
 TEST_F(PcxReader, CancelAndHostileHeaders) {
-    const std::string good = dir.write("g.pcx", encodePcx(4, 2, {1, 2, 3, 4, 5, 6, 7, 8}, gamePalette()));
+    const std::string good =
+        dir.write("g.pcx", encodePcx(4, 2, {1, 2, 3, 4, 5, 6, 7, 8}, gamePalette()));
     openSkin(host, frm, good);
     host.answerOpen(std::nullopt);
     frm.pcxIm_Click();
@@ -118,20 +122,25 @@ TEST_F(PcxReader, RandomBytesDecodeAsTheRulesSay) {
         const int h = 1 + static_cast<int>(rng() % (wide ? 3 : 30));
         Bytes file = pcxHeader(w, h, w + round % 2);
         // Every fifth file has next to no data: the zeros behind it run out first if wide.
-        const std::size_t dataBytes = rng() % static_cast<std::size_t>(round % 5 == 4 ? 40 : 2 * w * h + 8);
+        const std::size_t dataBytes =
+            rng() % static_cast<std::size_t>(round % 5 == 4 ? 40 : 2 * w * h + 8);
         // Every fourth file is mostly single pixels, in stretches of any length.
         const bool literals = round % 4 == 1;
         for (std::size_t i = 0; i < dataBytes; ++i)
-            file.push_back(static_cast<uint8_t>(rng() % (literals ? 40 : 3) == 0 ? 192 + rng() % 64
-                                                                                  : rng() % (literals ? 192 : 256)));
+            file.push_back(static_cast<uint8_t>(rng() % (literals ? 40 : 3) == 0
+                                                    ? 192 + rng() % 64
+                                                    : rng() % (literals ? 192 : 256)));
         file.push_back(0x0C);
         const Bytes palette = gamePalette();
         file.insert(file.end(), palette.begin(), palette.end());
         std::vector<int> unrecorded;
-        for (int k = 0; round % 3 == 2 && k < 40; ++k) unrecorded.push_back(static_cast<int>(rng() % 256));
-        for (int v : unrecorded) frm.Pal_Table(v).Index = 300;
+        for (int k = 0; round % 3 == 2 && k < 40; ++k)
+            unrecorded.push_back(static_cast<int>(rng() % 256));
+        for (int v : unrecorded)
+            frm.Pal_Table(v).Index = 300;
         expectLoadedAsRules(dir.write("random.pcx", file), unrecorded);
-        for (int v : unrecorded) frm.Pal_Table(v).Index = v;
+        for (int v : unrecorded)
+            frm.Pal_Table(v).Index = v;
     }
 }
 
@@ -140,7 +149,8 @@ TEST_F(PcxReader, StretchesAndRunsUpToTheGridsEnd) {
     // pixels and a run of 63 over and over, until one of each no longer fits.
     Bytes file = pcxHeader(1024, 1, 1024);
     for (int group = 0; group < 60; ++group) {
-        for (int i = 0; i < 62; ++i) file.push_back(static_cast<uint8_t>((group + i) % 192));
+        for (int i = 0; i < 62; ++i)
+            file.push_back(static_cast<uint8_t>((group + i) % 192));
         file.insert(file.end(), {255, static_cast<uint8_t>(group)});
     }
     file.push_back(0x0C);
@@ -152,17 +162,20 @@ TEST_F(PcxReader, StretchesAndRunsUpToTheGridsEnd) {
 TEST_F(PcxReader, AValueWithoutARecordRepeatsThePixelBefore) {
     frm.Pal_Table(3).Index = 40; // no record of its own for 3 and 5
     frm.Pal_Table(5).Index = 41;
-    frm.Pal_Table(0).Red = 200;  // so that the black of the first pixels shows
+    frm.Pal_Table(0).Red = 200; // so that the black of the first pixels shows
     openSkin(host, frm, dir.write("norec.pcx", encodePcx(6, 1, {3, 3, 7, 5, 0, 5}, gamePalette())));
     const std::vector<int16_t> grid = {0, 0, 7, 7, 0, 0};
-    for (int i = 0; i < 6; ++i) EXPECT_EQ(frm.Skin_Grid(i), grid[static_cast<std::size_t>(i)]) << i;
+    for (int i = 0; i < 6; ++i)
+        EXPECT_EQ(frm.Skin_Grid(i), grid[static_cast<std::size_t>(i)]) << i;
     const std::vector<int32_t> shown = {0, 0, colourOf(7), colourOf(7)};
-    for (int x = 0; x < 4; ++x) EXPECT_EQ(frm.picture1.Point(x, 0), shown[static_cast<std::size_t>(x)]) << x;
+    for (int x = 0; x < 4; ++x)
+        EXPECT_EQ(frm.picture1.Point(x, 0), shown[static_cast<std::size_t>(x)]) << x;
     EXPECT_EQ(frm.picture1.Point(0, 1), colourOf(0));
 }
 
 TEST_F(PcxReader, FilesFromOtherEncoders) {
-    for (const char* name : {"odd-width-7x5.pcx", "xmin5-ymin3.pcx", "tall-4x2200.pcx", "short-600.pcx"})
+    for (const char* name :
+         {"odd-width-7x5.pcx", "xmin5-ymin3.pcx", "tall-4x2200.pcx", "short-600.pcx"})
         expectLoadedAsRules(std::string(TAVRIN_TEST_DATA) + "/" + name);
     // Xmin is not subtracted: 5 + 6 columns wide.
     EXPECT_EQ(expectedLoad(readFile(std::string(TAVRIN_TEST_DATA) + "/xmin5-ymin3.pcx")).width, 11);
@@ -174,7 +187,8 @@ TEST_F(PcxReader, RealSkins) {
     int loaded = 0;
     for (const auto& entry : fs::recursive_directory_iterator(root)) {
         std::string ext = entry.path().extension().string();
-        for (char& c : ext) c = static_cast<char>(std::tolower(static_cast<unsigned char>(c)));
+        for (char& c : ext)
+            c = static_cast<char>(std::tolower(static_cast<unsigned char>(c)));
         if (ext != ".pcx") continue;
         const Bytes file = readFile(entry.path().string());
         if (file.size() < 128 || file[3] != 8 || file[65] != 1) continue; // 8-bit, one plane

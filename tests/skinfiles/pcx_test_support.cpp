@@ -26,10 +26,12 @@ Bytes encodePcx(int width, int height, const std::vector<uint8_t>& indices, cons
     Bytes out = pcxHeader(width, height, bytesPerLine);
     for (int y = 0; y < height; ++y) {
         std::vector<uint8_t> row(static_cast<std::size_t>(bytesPerLine), padByte);
-        for (int x = 0; x < width; ++x) row[static_cast<std::size_t>(x)] = indices[static_cast<std::size_t>(y * width + x)];
+        for (int x = 0; x < width; ++x)
+            row[static_cast<std::size_t>(x)] = indices[static_cast<std::size_t>(y * width + x)];
         for (std::size_t i = 0; i < row.size();) {
             std::size_t n = 1;
-            while (i + n < row.size() && row[i + n] == row[i] && n < 63) ++n;
+            while (i + n < row.size() && row[i + n] == row[i] && n < 63)
+                ++n;
             if (n > 1 || row[i] >= 192) out.push_back(static_cast<uint8_t>(192 + n));
             out.push_back(row[i]);
             i += n;
@@ -43,17 +45,20 @@ Bytes encodePcx(int width, int height, const std::vector<uint8_t>& indices, cons
 ExpectedLoad expectedLoad(const Bytes& file, const std::vector<int>& unrecorded) {
     ExpectedLoad e;
     const int64_t L = static_cast<int64_t>(file.size());
-    auto at = [&](int64_t pos) -> int { return pos >= 1 && pos <= L ? file[static_cast<std::size_t>(pos - 1)] : 0; };
+    auto at = [&](int64_t pos) -> int {
+        return pos >= 1 && pos <= L ? file[static_cast<std::size_t>(pos - 1)] : 0;
+    };
     e.width = 256 * at(10) + at(9) + 1;
     e.ymax = at(11) + 256 * at(12);
-    if (e.width < 2 || e.width - 2 > 32767) return e;          // picture1.Width refused
+    if (e.width < 2 || e.width - 2 > 32767) return e; // picture1.Width refused
     const int64_t cells = (e.ymax + 4) * e.width + 1001;
-    if (cells * 2 > (int64_t{256} << 20)) return e;             // grid too big to make
+    if (cells * 2 > (int64_t{256} << 20)) return e; // grid too big to make
     e.grid.assign(static_cast<std::size_t>(cells), 0);
     const int16_t heightTwips = static_cast<int16_t>(static_cast<uint16_t>(15 * (e.ymax + 2)));
-    if (heightTwips < 0) return e;                               // picture1.Height refused
+    if (heightTwips < 0) return e; // picture1.Height refused
     std::map<int64_t, int> buffer;
-    for (int64_t p = 129; p <= L - 769; ++p) buffer[p] = at(p);
+    for (int64_t p = 129; p <= L - 769; ++p)
+        buffer[p] = at(p);
     auto cell = [&](int64_t p) -> std::optional<int> {
         if (p < 0 || p > L + 1000) return std::nullopt;
         auto it = buffer.find(p);
@@ -84,7 +89,8 @@ ExpectedLoad expectedLoad(const Bytes& file, const std::vector<int>& unrecorded)
     return e;
 }
 
-void openSkin(platform::ScriptedHost& host, FrmMain& frm, const std::string& path, bool takePalette) {
+void openSkin(platform::ScriptedHost& host, FrmMain& frm, const std::string& path,
+              bool takePalette) {
     host.answerOpen(path);
     host.answerMsgBox(takePalette ? platform::kMsgYes : platform::kMsgNo);
     frm.pcxIm_Click();

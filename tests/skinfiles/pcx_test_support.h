@@ -19,8 +19,8 @@ Bytes encodePcx(int width, int height, const std::vector<uint8_t>& indices, cons
 // in `unrecorded` has no record of its own in the palette table.
 struct ExpectedLoad {
     int64_t width = 0, ymax = 0;
-    std::vector<int16_t> grid;  // empty when the grid was never made
-    bool completed = false;     // the decoding reached its end: picture1 gets the picture
+    std::vector<int16_t> grid; // empty when the grid was never made
+    bool completed = false;    // the decoding reached its end: picture1 gets the picture
 };
 ExpectedLoad expectedLoad(const Bytes& file, const std::vector<int>& unrecorded = {});
 

@@ -15,8 +15,10 @@ struct PcxWriter : EditorTest {
     // What a save must write for the editor as it stands.
     Bytes expectedFile() {
         Bytes out;
-        for (int k = 1; k <= 128; ++k) out.push_back(frm.PCX_Header(k));
-        const int w = static_cast<int>(frm.Skin_Width.num()), h = static_cast<int>(frm.Skin_Height.num());
+        for (int k = 1; k <= 128; ++k)
+            out.push_back(frm.PCX_Header(k));
+        const int w = static_cast<int>(frm.Skin_Width.num()),
+                  h = static_cast<int>(frm.Skin_Height.num());
         for (int i = 0; i < w * h; ++i) {
             const int v = frm.Skin_Grid(i);
             if (v >= 192) out.push_back(0xC1);
@@ -39,8 +41,10 @@ TEST_F(PcxWriter, LoadThenSaveWritesHeaderGridWithEscapesAndPalette) {
     frm.SKas_Click();
     const Bytes saved = readFile(dir.file("out.PCX"));
     EXPECT_EQ(saved, expectedFile());
-    EXPECT_EQ(Bytes(saved.begin(), saved.begin() + 128), Bytes(source.begin(), source.begin() + 128));
-    EXPECT_EQ(Bytes(saved.begin() + 128, saved.begin() + 134), (Bytes{0, 191, 0xC1, 192, 0xC1, 255}));
+    EXPECT_EQ(Bytes(saved.begin(), saved.begin() + 128),
+              Bytes(source.begin(), source.begin() + 128));
+    EXPECT_EQ(Bytes(saved.begin() + 128, saved.begin() + 134),
+              (Bytes{0, 191, 0xC1, 192, 0xC1, 255}));
     EXPECT_EQ(frm.Save_As_Flag, 0);
     EXPECT_EQ(frm.CommonDialog1.DialogTitle.get(), "Save Skin PCX as Filename:");
     EXPECT_TRUE(frm.Picture7.Visible);
@@ -109,7 +113,8 @@ TEST_F(PcxWriter, IndicesThatAreNoByteLeaveAHole) {
     frm.ex_Click();
     const Bytes past = readFile(dir.file("past.PCX"));
     Bytes repeated = {0, 7};
-    for (int i = 2; i < 20; ++i) repeated.insert(repeated.end(), {0xC1, 200});
+    for (int i = 2; i < 20; ++i)
+        repeated.insert(repeated.end(), {0xC1, 200});
     EXPECT_EQ(Bytes(past.begin() + 128, past.end() - 768), repeated);
 }
 

@@ -21,7 +21,8 @@ TempDir::~TempDir() {
 std::string TempDir::write(const std::string& name, const Bytes& bytes) const {
     std::string full = file(name);
     std::ofstream out(full, std::ios::binary | std::ios::trunc);
-    out.write(reinterpret_cast<const char*>(bytes.data()), static_cast<std::streamsize>(bytes.size()));
+    out.write(reinterpret_cast<const char*>(bytes.data()),
+              static_cast<std::streamsize>(bytes.size()));
     if (!out) throw std::runtime_error("can't write " + full);
     return full;
 }
@@ -34,7 +35,8 @@ Bytes readFile(const std::string& path) {
 
 Bytes makeBytes(std::size_t count, const std::function<uint8_t(std::size_t)>& fn) {
     Bytes bytes(count);
-    for (std::size_t k = 0; k < count; ++k) bytes[k] = fn(k);
+    for (std::size_t k = 0; k < count; ++k)
+        bytes[k] = fn(k);
     return bytes;
 }
 
@@ -47,7 +49,8 @@ std::string controlSnapshot(const platform::Form& form) {
             out += c.name() + "." + p->name() + "=" + p->text() + "\n";
     };
     add(form);
-    for (const platform::Control* c : form.controls()) add(*c);
+    for (const platform::Control* c : form.controls())
+        add(*c);
     return out;
 }
 

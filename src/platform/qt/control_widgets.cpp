@@ -27,12 +27,24 @@ QString qs(const std::string& s) { return QString::fromStdString(s); }
 // drawn icons, a short word stands in for the picture.
 QString toolGlyph(const std::string& toolTip) {
     static const std::map<std::string, QString> glyphs = {
-        {"Pencil (Pixel)", "Pen"}, {"Paint-Brush ", "Brush"}, {"Air-Brush", "Air"},
-        {"Blur", "Blur"},          {"Mask/Color Replace", "Mask"}, {"Eye-Dropper", "Eye"},
-        {"Rectangle", "Rect"},     {"Filled Rectangle", "Fill"}, {"Zoom", "Zoom"},
-        {"Pan Some", "500"},       {"Pan Alot", "5000"},    {"Line", "Line"},
-        {"Left", "\u25C0"},        {"Right", "\u25B6"},     {"Up", "\u25B2"},
-        {"Down", "\u25BC"},        {"Smudge", "Grad"},      {"Text", "Text"},
+        {"Pencil (Pixel)", "Pen"},
+        {"Paint-Brush ", "Brush"},
+        {"Air-Brush", "Air"},
+        {"Blur", "Blur"},
+        {"Mask/Color Replace", "Mask"},
+        {"Eye-Dropper", "Eye"},
+        {"Rectangle", "Rect"},
+        {"Filled Rectangle", "Fill"},
+        {"Zoom", "Zoom"},
+        {"Pan Some", "500"},
+        {"Pan Alot", "5000"},
+        {"Line", "Line"},
+        {"Left", "\u25C0"},
+        {"Right", "\u25B6"},
+        {"Up", "\u25B2"},
+        {"Down", "\u25BC"},
+        {"Smudge", "Grad"},
+        {"Text", "Text"},
         {"Close", "x"},
     };
     auto it = glyphs.find(toolTip);
@@ -41,13 +53,14 @@ QString toolGlyph(const std::string& toolTip) {
 
 // Title bars of the floating bars look like a window's caption.
 bool isTitleBar(const std::string& name) {
-    return name == "SSPanel8" || name == "SSPanel9" || name == "SSPanel10" ||
-           name == "SSPanel12" || name == "SSPanel14" || name == "SSPanel17";
+    return name == "SSPanel8" || name == "SSPanel9" || name == "SSPanel10" || name == "SSPanel12" ||
+           name == "SSPanel14" || name == "SSPanel17";
 }
 
 class PanelWidget : public QFrame {
 public:
-    PanelWidget(platform::Panel& panel, QWidget* parent) : QFrame(parent), label_(new QLabel(this)) {
+    PanelWidget(platform::Panel& panel, QWidget* parent)
+        : QFrame(parent), label_(new QLabel(this)) {
         setFrameStyle(QFrame::Panel | QFrame::Raised);
         setLineWidth(1);
         setAutoFillBackground(true);
@@ -174,7 +187,8 @@ void updateControlWidget(Control& control, QWidget* widget) {
         auto* l = static_cast<QListWidget*>(widget);
         if (l->count() != static_cast<int>(c.items().size())) {
             l->clear();
-            for (const std::string& item : c.items()) l->addItem(qs(item));
+            for (const std::string& item : c.items())
+                l->addItem(qs(item));
         }
         break;
     }
@@ -199,8 +213,10 @@ void updateControlWidget(Control& control, QWidget* widget) {
 
 QIcon toolbarIcon(const std::string& key, QStyle* style) {
     static const std::map<std::string, QStyle::StandardPixmap> icons = {
-        {"New", QStyle::SP_FileIcon},          {"Open", QStyle::SP_DialogOpenButton},
-        {"Save", QStyle::SP_DialogSaveButton}, {"Print", QStyle::SP_ComputerIcon},
+        {"New", QStyle::SP_FileIcon},
+        {"Open", QStyle::SP_DialogOpenButton},
+        {"Save", QStyle::SP_DialogSaveButton},
+        {"Print", QStyle::SP_ComputerIcon},
     };
     auto it = icons.find(key);
     return it == icons.end() ? QIcon() : style->standardIcon(it->second);

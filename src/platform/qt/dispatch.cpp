@@ -24,7 +24,8 @@ void unregisterWindow(FormWindow* window) {
 }
 
 void syncViews() {
-    for (FormWindow* w : windows()) w->syncPictures();
+    for (FormWindow* w : windows())
+        w->syncPictures();
 }
 
 void runEvent(const std::function<void()>& handler) {

@@ -29,12 +29,14 @@ FormWindow::FormWindow(Form& form) : form_(form), surface_(new QWidget(this)) {
 
 FormWindow::~FormWindow() {
     unregisterWindow(this);
-    for (auto& [control, id] : observers_) control->unobserve(id);
+    for (auto& [control, id] : observers_)
+        control->unobserve(id);
 }
 
 void FormWindow::watch(Control& control, std::function<void()> update) {
     update();
-    observers_.emplace_back(&control, control.observe([update](const PropBase*) { update(); }));
+    observers_.emplace_back(
+        &control, control.observe([update = std::move(update)](const PropBase*) { update(); }));
 }
 
 QWidget* FormWindow::widgetFor(const Control* control) const {
@@ -62,7 +64,8 @@ void FormWindow::buildControls() {
         QWidget* w = makeControlWidget(*c, surface_);
         if (!w) continue;
         widgets_[c] = w;
-        if (c->kind() == ControlKind::PictureBox) pictures_.push_back(static_cast<PictureWidget*>(w));
+        if (c->kind() == ControlKind::PictureBox)
+            pictures_.push_back(static_cast<PictureWidget*>(w));
     }
     for (auto& [control, w] : widgets_) {
         if (control->Container)
@@ -102,7 +105,8 @@ void FormWindow::fillMenu(QMenu* menu, MenuItem* parent) {
             action = sub->menuAction();
         } else {
             action = menu->addAction(QString::fromStdString(item->Caption.get()));
-            if (!item->Shortcut.empty()) action->setShortcut(QKeySequence(QString::fromStdString(item->Shortcut)));
+            if (!item->Shortcut.empty())
+                action->setShortcut(QKeySequence(QString::fromStdString(item->Shortcut)));
             QObject::connect(action, &QAction::triggered, this, [item, action] {
                 runEvent(item->Click);
                 // The handler owns the check mark; undo any toggle Qt made on its own.
@@ -171,19 +175,19 @@ void FormWindow::buildStatusBar(StatusBar& bar) {
     auto* label = new QLabel(this);
     label->setObjectName("StatusBar1.Panel1");
     statusBar()->addWidget(label, 1);
-    watch(bar, [label, &bar] {
-        label->setText(QString::fromStdString(bar.Panels(1).Text.get()));
-    });
+    watch(bar, [label, &bar] { label->setText(QString::fromStdString(bar.Panels(1).Text.get())); });
 }
 
 void FormWindow::syncPictures() {
-    for (PictureWidget* p : pictures_) p->sync();
+    for (PictureWidget* p : pictures_)
+        p->sync();
 }
 
 void FormWindow::applyWindowState() {
     if (form_.WindowState == 2) {
         // Without a window manager a maximise request does nothing: take the screen.
-        if (QScreen* screen = QGuiApplication::primaryScreen()) setGeometry(screen->availableGeometry());
+        if (QScreen* screen = QGuiApplication::primaryScreen())
+            setGeometry(screen->availableGeometry());
         showMaximized();
     } else {
         resize(form_.Width.pixels(), form_.Height.pixels());
@@ -192,8 +196,10 @@ void FormWindow::applyWindowState() {
 }
 
 void FormWindow::closeEvent(QCloseEvent* event) {
-    if (onClose && !onClose()) event->ignore();
-    else event->accept();
+    if (onClose && !onClose())
+        event->ignore();
+    else
+        event->accept();
 }
 
 void FormWindow::resizeEvent(QResizeEvent* event) {

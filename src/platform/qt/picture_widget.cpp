@@ -19,8 +19,8 @@ PictureWidget::PictureWidget(PictureBox& box, QWidget* parent) : QWidget(parent)
 namespace {
 
 int16_t shiftState(Qt::KeyboardModifiers m) {
-    return static_cast<int16_t>((m & Qt::ShiftModifier ? 1 : 0) | (m & Qt::ControlModifier ? 2 : 0) |
-                                (m & Qt::AltModifier ? 4 : 0));
+    return static_cast<int16_t>((m & Qt::ShiftModifier ? 1 : 0) |
+                                (m & Qt::ControlModifier ? 2 : 0) | (m & Qt::AltModifier ? 4 : 0));
 }
 
 // Qt's left, right and middle are 1, 2 and 4, as the form's events count them.
@@ -30,7 +30,8 @@ int16_t buttonBits(Qt::MouseButtons b) {
 
 } // namespace
 
-void PictureWidget::sendMouse(const PictureBox::MouseHandler& handler, int button, QMouseEvent* event) {
+void PictureWidget::sendMouse(const PictureBox::MouseHandler& handler, int button,
+                              QMouseEvent* event) {
     if (!handler) return;
     // Outside the widget while a button is held the positions keep coming, beyond the
     // edges, as the handlers expect.
@@ -83,13 +84,13 @@ void PictureWidget::paintEvent(QPaintEvent* event) {
     constexpr int kBandPixels = 1 << 22;
     const int bandRows = std::clamp(kBandPixels / exposed.width(), 1, exposed.height());
     if (shown_.width() < exposed.width() || shown_.height() < bandRows)
-        shown_ = QImage(std::max(shown_.width(), exposed.width()), std::max(shown_.height(), bandRows),
-                        QImage::Format_RGB32);
+        shown_ = QImage(std::max(shown_.width(), exposed.width()),
+                        std::max(shown_.height(), bandRows), QImage::Format_RGB32);
     if (shown_.isNull()) return;
     for (int top = exposed.top(); top <= exposed.bottom(); top += bandRows) {
         const int rows = std::min(bandRows, exposed.bottom() + 1 - top);
-        const PixelRect region{exposed.x() - inset, top - inset, exposed.x() - inset + exposed.width(),
-                               top - inset + rows};
+        const PixelRect region{exposed.x() - inset, top - inset,
+                               exposed.x() - inset + exposed.width(), top - inset + rows};
         box_.render(region, reinterpret_cast<uint32_t*>(shown_.bits()), shown_.bytesPerLine() / 4,
                     PixelOrder::Xrgb);
         painter.drawImage(QPoint(exposed.x(), top), shown_, QRect(0, 0, exposed.width(), rows));

@@ -73,9 +73,9 @@ bool QtHost::ShowSave(CommonDialog& dialog) { return fileDialog(dialog, true); }
 
 bool QtHost::ShowColor(CommonDialog& dialog) {
     const int c = dialog.Color;
-    QColor chosen = QColorDialog::getColor(QColor(c & 0xFF, (c >> 8) & 0xFF, (c >> 16) & 0xFF),
-                                           activeParent(), QString(),
-                                           QColorDialog::DontUseNativeDialog);
+    QColor chosen =
+        QColorDialog::getColor(QColor(c & 0xFF, (c >> 8) & 0xFF, (c >> 16) & 0xFF), activeParent(),
+                               QString(), QColorDialog::DontUseNativeDialog);
     if (!chosen.isValid()) return false;
     dialog.Color = chosen.red() | (chosen.green() << 8) | (chosen.blue() << 16);
     return true;
