@@ -50,14 +50,16 @@ double PictureBox::unitsPerPixel(bool across) const {
     return 1.0;
 }
 
+// A scale of extent 0 has no point inside it: every coordinate lies outside (pixel -1),
+// rather than all of them on pixel 0, where a scan for the edge would never end.
 int64_t PictureBox::toPixelX(double x) const {
     double u = unitsPerPixel(true);
-    return toDevice(u == 0 ? 0 : x / u);
+    return u == 0 ? -1 : toDevice(x / u);
 }
 
 int64_t PictureBox::toPixelY(double y) const {
     double u = unitsPerPixel(false);
-    return toDevice(u == 0 ? 0 : y / u);
+    return u == 0 ? -1 : toDevice(y / u);
 }
 
 PictureBox::ScaleProp& PictureBox::ScaleProp::operator=(double units) {

@@ -31,6 +31,9 @@ std::string description(int number);
 class Error : public std::runtime_error {
 public:
     explicit Error(int number) : std::runtime_error(description(number)), number_(number) {}
+    // With the reason the system gave ("No space left on device") in place of the number's
+    // own text: for the failures a user is told about.
+    Error(int number, const std::string& reason) : std::runtime_error(reason), number_(number) {}
     int number() const { return number_; }
 
 private:

@@ -1,10 +1,12 @@
 #include "platform/vb_files.h"
 
+#include "platform/file_replace.h"
 #include "platform/vb_error.h"
 #include "platform/vb_memory.h"
 
 #include <algorithm>
 #include <filesystem>
+#include <optional>
 #include <system_error>
 
 namespace vb {
@@ -54,43 +56,30 @@ void FileTable::OpenForWrite(int number, const std::string& path) {
     if (number < 1 || number > kMaxNumber) raise(BadFileNameOrNumber);
     auto& slot = files_[static_cast<std::size_t>(number)];
     if (slot) raise(FileAlreadyOpen);
-    std::error_code ec;
-    if (path.empty() || std::filesystem::is_directory(path, ec)) raise(PathFileAccess);
+    checkReplaceable(path);
     auto f = std::make_unique<OpenFile>();
     f->path = path;
     f->writing = true;
-    if (std::filesystem::exists(path, ec)) {
-        // Open For Binary keeps what the file holds; Put overwrites in place.
-        std::ifstream old(path, std::ios::binary);
-        f->out.assign(std::istreambuf_iterator<char>(old), std::istreambuf_iterator<char>());
-    }
-    std::ofstream probe(path, std::ios::binary | std::ios::app);
-    if (!probe) raise(PathFileAccess);
     slot = std::move(f);
 }
 
 void FileTable::Close(int number) {
-    auto& f = file(number);
-    std::unique_ptr<OpenFile> owned = std::move(files_[static_cast<std::size_t>(number)]);
-    if (f.writing) {
-        std::ofstream o(owned->path, std::ios::binary | std::ios::trunc);
-        o.write(reinterpret_cast<const char*>(owned->out.data()),
-                static_cast<std::streamsize>(owned->out.size()));
-        if (!o) raise(PathFileAccess);
-    }
+    file(number);
+    const std::unique_ptr<OpenFile> owned = std::move(files_[static_cast<std::size_t>(number)]);
+    if (owned->writing) replaceFile(owned->path, owned->out);
 }
 
 void FileTable::CloseAll() {
-    bool failed = false;
+    std::optional<Error> first;
     for (int n = 1; n <= kMaxNumber; ++n) {
         if (!files_[static_cast<std::size_t>(n)]) continue;
         try {
             Close(n);
-        } catch (const Error&) {
-            failed = true;
+        } catch (const Error& e) {
+            if (!first) first = e;
         }
     }
-    if (failed) raise(PathFileAccess);
+    if (first) throw *first;
 }
 
 int64_t FileTable::LOF(int number) const {
@@ -160,17 +149,6 @@ void FileTable::Put(int number, int64_t position, std::vector<uint8_t>&& bytes) 
         return;
     }
     Put(number, position, bytes.data(), bytes.size());
-}
-
-void Kill(const std::string& path) {
-    std::error_code ec;
-    if (!std::filesystem::is_regular_file(path, ec)) raise(FileNotFound);
-    if (!std::filesystem::remove(path, ec) || ec) raise(PathFileAccess);
-}
-
-bool fileExists(const std::string& path) {
-    std::error_code ec;
-    return std::filesystem::is_regular_file(path, ec);
 }
 
 } // namespace vb

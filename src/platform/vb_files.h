@@ -2,7 +2,8 @@
 // Files opened by number, as the runtime's Open/Get/Put/Close gave them. Positions are
 // 1-based. A read that runs past the end leaves its target unchanged and only then
 // does EOF turn true. Readers may take a whole range in one call (GetBytes) and decode
-// from memory; writers collect their bytes and the file is written once, at Close.
+// from memory; writers collect their bytes and the file is written once, at Close, as a
+// whole new file put in the old one's place (platform/file_replace.h).
 #include "platform/byte_window.h"
 
 #include <cstdint>
@@ -24,11 +25,15 @@ public:
 
     // Open path For Binary As #number, to read: the file must exist.
     void OpenForRead(int number, const std::string& path);
-    // Open path For Binary As #number, to write: created when missing.
+    // Open path For Binary As #number, to write a new file that replaces whatever stands
+    // at path when it is closed. The old file is never read: a save replaces it whole.
+    // Raises, with the reason, when path can't be replaced.
     void OpenForWrite(int number, const std::string& path);
 
+    // A writer's Close puts its file in place; a failure raises PathFileAccess with the
+    // system's reason and leaves the old file as it was.
     void Close(int number);
-    void CloseAll(); // Close with no number
+    void CloseAll(); // Close with no number; raises the first writer's failure
 
     int64_t LOF(int number) const;
     bool EOF_(int number) const;
@@ -63,9 +68,5 @@ private:
 
     std::vector<std::unique_ptr<OpenFile>> files_;
 };
-
-// Kill: deletes a file; FileNotFound when there is none.
-void Kill(const std::string& path);
-bool fileExists(const std::string& path);
 
 } // namespace vb

@@ -4,6 +4,7 @@
 #include "editor/frm_main.h"
 #include "platform/vb_memory.h"
 #include "platform/vb_numeric.h"
+#include "platform/vb_text.h"
 
 #include <algorithm>
 
@@ -132,21 +133,27 @@ void FrmMain::ex_Click() {
     const std::string chosen = CommonDialog1.FileName;
     MousePointer = 11;
 
-    // Each step below is guarded on its own; a failure skips it without a word.
+    // Each step below is guarded on its own and a failure skips it. A failure to write
+    // the file is the one this editor reports: the old file is kept whole (the new one
+    // replaces it only once written) and the status line says why the save failed.
+    std::string failure;
+    auto fileStep = [&failure](auto&& step) {
+        try {
+            step();
+        } catch (const vb::Error& e) {
+            if (failure.empty()) failure = e.what();
+        }
+    };
     std::string target;
     vb::resume([&] {
         Files.CloseAll();
         // The last four characters go, whatever they are.
-        if (chosen.size() < 4) vb::raise(vb::InvalidCall);
-        target = chosen.substr(0, chosen.size() - 4) + ".PCX";
-    });
-    vb::resume([&] {
-        if (vb::fileExists(target)) vb::Kill(target);
+        target = vb::Left(chosen, vb::Len(chosen) - 4) + ".PCX";
     });
     vb::resume([&] { StatusBar1.Panels(1).Text = "Exporting Image...."; });
     vb::resume([&] { host_.DoEvents(); });
     bool opened = false;
-    vb::resume([&] {
+    fileStep([&] {
         Files.OpenForWrite(2, target);
         opened = true;
     });
@@ -169,11 +176,11 @@ void FrmMain::ex_Click() {
         file.push_back(static_cast<uint8_t>(r.Green & 0xFF));
         file.push_back(static_cast<uint8_t>(r.Blue & 0xFF));
     }
-    if (opened) vb::resume([&] { Files.Put(2, 1, std::move(file)); });
-    vb::resume([&] { Files.CloseAll(); });
+    if (opened) fileStep([&] { Files.Put(2, 1, std::move(file)); });
+    fileStep([&] { Files.CloseAll(); });
     MousePointer = 0;
     Picture7.Visible = true;
-    StatusBar1.Panels(1).Text = "Ready...";
+    StatusBar1.Panels(1).Text = failure.empty() ? "Ready..." : "Save failed: " + failure;
 }
 
 } // namespace tavrin

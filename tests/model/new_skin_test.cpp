@@ -1,6 +1,7 @@
 // New skin from a model: the reader's rules, the header's size bytes, the grid of 0 and
 // 15, the error path, and the real models.
 #include "model/md2_files.h"
+#include "skinfiles/pcx_test_support.h"
 
 #include <algorithm>
 #include <filesystem>
@@ -98,6 +99,17 @@ TEST_F(NewSkin, SizeBytesFollowTheTwoWidthRules) {
     EXPECT_EQ(lastMessage(), kLoadProblem);
     EXPECT_FALSE(frm.Picture7.Visible);
     EXPECT_EQ(frm.picture1.Point(5, 1), 0);
+}
+
+// A model of no size (an empty file does it) leaves picture1 with a scale of extent 0;
+// the next skin must still open instead of counting its columns for ever.
+TEST_F(NewSkin, AModelOfNoSizeLeavesTheNextOpenWorking) {
+    newSkin(dir.write("empty.md2", Bytes{}));
+    EXPECT_EQ(frm.picture1.ScaleWidth, 0);
+    openSkin(host, frm, dir.write("next.pcx", encodePcx(4, 3, Bytes(12, 9), gamePalette())));
+    EXPECT_EQ(frm.Skin_Width, 4);
+    EXPECT_EQ(frm.Skin_Grid(0), 9);
+    EXPECT_EQ(frm.Pixel_Width, 1); // the first column read is already outside
 }
 
 TEST_F(NewSkin, RealModels) {

@@ -60,6 +60,14 @@ TEST(PictureBox, PointIsMinusOneOutsideTheInnerAreaAndPSetThereChangesNothing) {
     EXPECT_EQ(p.Point(2, 1), kRed);
     p.PSet(3, 1, 0x2000000 | kGreen); // a palette-relative colour draws its low 24 bits
     EXPECT_EQ(p.Point(3, 1), kGreen);
+
+    // A scale of extent 0 (a model whose skin is 0 wide sets one) holds no point at all,
+    // whatever the box's size: a scan for the edge must end.
+    p.ScaleWidth = 0;
+    EXPECT_EQ(p.Point(1, 1), -1);
+    EXPECT_EQ(p.Point(0, 0), -1);
+    p.PSet(0, 0, kRed);
+    EXPECT_EQ(p.Image()->at(0, 0), static_cast<uint32_t>(kGrey));
 }
 
 TEST(PictureBox, LineDrawsALineABoxOrAFilledBoxBothEndsIncluded) {

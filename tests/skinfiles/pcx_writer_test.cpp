@@ -69,10 +69,34 @@ TEST_F(PcxWriter, TargetNameAndWhatStandsThereBefore) {
     frm.ex_Click();
     EXPECT_EQ(host.messages().size(), shown);
     EXPECT_TRUE(frm.Picture7.Visible);
-    // A folder that isn't there: skipped step by step, "Ready..." all the same.
+    // The last four characters go, not four bytes.
+    host.answerSave(dir.file("skin\xE6\x97\xA5\xE6\x9C\xAC"));
+    frm.ex_Click();
+    EXPECT_TRUE(std::filesystem::exists(dir.file("sk.PCX")));
+}
+
+// A save that fails keeps the file that stood there and says why on the status line,
+// with no message box: the rest of the command runs as always.
+TEST_F(PcxWriter, AFailedSaveKeepsTheOldFileAndSaysWhy) {
+    openSkin(host, frm, dir.write("in.pcx", encodePcx(2, 1, {5, 6}, gamePalette())));
+    const std::string kept = dir.write("kept.PCX", Bytes{1, 2, 3});
+    std::filesystem::permissions(kept, std::filesystem::perms::owner_read |
+                                           std::filesystem::perms::group_read |
+                                           std::filesystem::perms::others_read);
+    const std::size_t shown = host.messages().size();
+    host.answerSave(kept);
+    frm.ex_Click();
+    EXPECT_EQ(readFile(kept), (Bytes{1, 2, 3}));
+    EXPECT_EQ(frm.StatusBar1.Panels(1).Text.get(), "Save failed: Permission denied");
     host.answerSave(dir.file("no/such/place.pcx"));
     frm.ex_Click();
+    EXPECT_EQ(frm.StatusBar1.Panels(1).Text.get(), "Save failed: No such file or directory");
     EXPECT_EQ(host.messages().size(), shown);
+    EXPECT_TRUE(frm.Picture7.Visible);
+    EXPECT_EQ(frm.MousePointer, 0);
+    // The next save that can write says so as always.
+    host.answerSave(dir.file("fine.pcx"));
+    frm.ex_Click();
     EXPECT_EQ(frm.StatusBar1.Panels(1).Text.get(), "Ready...");
 }
 
