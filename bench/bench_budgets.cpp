@@ -8,6 +8,8 @@ const std::vector<Budget>& budgets() {
         {"stroke move, zoom 8", "stroke_move/path", "stroke_move/baseline", 0.01, false},
         {"press with snapshot", "press/path", "press/baseline", 3, false},
         {"Temp_Color_Check", "Temp_Color_Check/path", "Temp_Color_Check/baseline", 20, true},
+        {"Temp_Color_Check, 65,532 colours", "Temp_Color_Check_many/path",
+         "Temp_Color_Check_many/baseline", 1, false},
         {"Get_PCX 1024x1024", "Get_PCX/path", "Get_PCX/baseline", 10, false},
         {"ex_Click 1024x1024", "ex_Click/path", "ex_Click/baseline", 10, false},
         {"canvas region, zoom 8", "canvas_region/path", "canvas_region/baseline", 5, false},

@@ -4,6 +4,8 @@
 
 #include <benchmark/benchmark.h>
 
+#include <algorithm>
+
 #include <cstring>
 
 namespace tavrin::bench {
@@ -72,6 +74,49 @@ void cachedMatch(benchmark::State& state) {
         }
 }
 BENCHMARK(cachedMatch)->Name("Temp_Color_Check/path")->Unit(benchmark::kMicrosecond);
+
+// 65,532 distinct colours, spread over the whole cube: no answer can be remembered, so
+// the first pass is all the match costs.
+const std::vector<int32_t>& manyColours() {
+    static const std::vector<int32_t> c = [] {
+        std::vector<int32_t> out;
+        for (int32_t k = 0; k < 65532; ++k)
+            out.push_back((k * 2654435761u) & 0xFFFFFF);
+        std::sort(out.begin(), out.end());
+        out.erase(std::unique(out.begin(), out.end()), out.end());
+        return out;
+    }();
+    return c;
+}
+
+void scanManyColours(benchmark::State& state) {
+    Editor e;
+    int32_t near = 0;
+    for (auto _ : state)
+        for (int32_t c : manyColours()) {
+            MatchResult r = matchColor(e.frm.Pal_Table, c, near);
+            near = r.nearColor;
+            benchmark::DoNotOptimize(r);
+        }
+    state.counters["colours"] = static_cast<double>(manyColours().size());
+}
+BENCHMARK(scanManyColours)->Name("Temp_Color_Check_many/baseline")->Unit(benchmark::kMillisecond);
+
+// Each pass starts with a palette just read, so nothing is remembered from the last.
+void matchManyColours(benchmark::State& state) {
+    Editor e;
+    for (auto _ : state) {
+        state.PauseTiming();
+        e.frm.Get_Pal();
+        state.ResumeTiming();
+        for (int32_t c : manyColours()) {
+            e.frm.Check_Color = c;
+            e.frm.Temp_Color_Check();
+            benchmark::DoNotOptimize(e.frm.Check_Color);
+        }
+    }
+}
+BENCHMARK(matchManyColours)->Name("Temp_Color_Check_many/path")->Unit(benchmark::kMillisecond);
 
 } // namespace
 } // namespace tavrin::bench

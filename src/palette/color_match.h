@@ -4,6 +4,7 @@
 #include "editor/records.h"
 #include "platform/vb_array.h"
 
+#include <array>
 #include <cstdint>
 #include <vector>
 
@@ -20,36 +21,43 @@ struct MatchResult {
 };
 
 // Records 1 to 256 by Manhattan distance, exact hit ends the scan, ties go to the lower
-// record. nearColor is the Near_Color the caller holds before the call.
+// record. nearColor is the Near_Color the caller holds before the call. The plain scan,
+// one record at a time: the reference the faster matcher below is held to.
 MatchResult matchColor(const vb::Array<PalRecord>& table, int32_t check, int32_t nearColor);
 
-// Answers by input colour, direct-mapped. An answer that gives back Near_Color as it
-// stood before the call (no record came near enough) depends on more than the colour
-// and isn't kept.
+// The same answers, fast: records 1 to 256 held as channels side by side, all 256
+// distances worked out together, and answers remembered by input colour (direct-mapped).
+// An answer that gives back Near_Color as it stood before the call (no record came near
+// enough) depends on more than the colour and isn't kept.
 class MatchCache {
 public:
+    MatchResult match(const vb::Array<PalRecord>& table, int32_t check, int32_t nearColor);
+    // The palette changed: forget every answer and the records' channels.
+    void clear();
+
+private:
+    // Records 1 to 256 side by side; unusable while some record's colour can't be packed
+    // (the plain scan then raises where the record is reached).
+    struct Channels {
+        bool built = false, usable = false;
+        alignas(16) std::array<int16_t, 256> red{}, green{}, blue{};
+        std::array<int32_t, 256> packed{};
+        std::array<int16_t, 256> index{};
+    };
     struct Entry {
         bool used = false; // no colour marks an empty slot: -1 is an input like any other
         int32_t color = 0;
         MatchResult result;
     };
     static constexpr int kBits = 16;
-
     static std::size_t slot(int32_t color) {
         return (static_cast<uint32_t>(color) * 2654435761u) >> (32 - kBits);
     }
-    const MatchResult* find(int32_t color) const {
-        const Entry& e = entries[slot(color)];
-        return e.used && e.color == color ? &e.result : nullptr;
-    }
-    void store(int32_t color, const MatchResult& r) {
-        if (!r.indexSet || color == -1) return;
-        entries[slot(color)] = Entry{true, color, r};
-    }
-    void clear() { std::fill(entries.begin(), entries.end(), Entry{}); }
+    void build(const vb::Array<PalRecord>& table);
+    MatchResult scan(int32_t check) const;
 
-private:
-    std::vector<Entry> entries = std::vector<Entry>(std::size_t{1} << kBits);
+    Channels channels_;
+    std::vector<Entry> entries_ = std::vector<Entry>(std::size_t{1} << kBits);
 };
 
 } // namespace tavrin

@@ -5,7 +5,6 @@
 #include "palette/palette_format.h"
 #include "platform/vb_numeric.h"
 
-#include <cmath>
 #include <memory>
 
 namespace tavrin {
@@ -54,50 +53,13 @@ void FrmMain::paletteChanged() {
     if (matchCache_) matchCache_->clear();
 }
 
-MatchResult matchColor(const vb::Array<PalRecord>& table, int32_t check, int32_t nearColor) {
-    MatchResult out;
-    out.nearColor = nearColor;
-    const double red = vb::redOf(check);
-    const double green = vb::greenOf(check);
-    const double blue = vb::blueOf(check);
-    for (int n = 1; n <= 256; ++n) {
-        const PalRecord& r = table(n);
-        const int32_t packed = vb::RGB(r.Red, r.Green, r.Blue);
-        const double distance = std::abs(vb::redOf(packed) - red) +
-                                std::abs(vb::greenOf(packed) - green) +
-                                std::abs(vb::blueOf(packed) - blue);
-        if (distance == 0) {
-            out.checkColor = packed;
-            out.indexSet = true;
-            out.index = r.Index;
-            return out;
-        }
-        if (distance < out.nearDistance) {
-            out.nearSet = true;
-            out.nearColor = packed;
-            out.nearDistance = static_cast<int16_t>(distance);
-            out.indexSet = true;
-            out.index = r.Index;
-        }
-    }
-    out.checkColor = out.nearColor;
-    return out;
-}
-
 void FrmMain::Temp_Color_Check() {
-    const int32_t input = Check_Color;
     if (!matchCache_) matchCache_ = std::make_shared<MatchCache>();
-    const MatchResult* known = matchCache_->find(input);
-    MatchResult fresh;
-    if (!known) {
-        fresh = matchColor(Pal_Table, input, Near_Color);
-        matchCache_->store(input, fresh);
-        known = &fresh;
-    }
-    Check_Color = known->checkColor;
-    if (known->indexSet) Color_Index = known->index;
-    if (known->nearSet) Near_Color = known->nearColor;
-    Near_Distance = known->nearDistance;
+    const MatchResult r = matchCache_->match(Pal_Table, Check_Color, Near_Color);
+    Check_Color = r.checkColor;
+    if (r.indexSet) Color_Index = r.index;
+    if (r.nearSet) Near_Color = r.nearColor;
+    Near_Distance = r.nearDistance;
 }
 
 void FrmMain::RGB_Color() {

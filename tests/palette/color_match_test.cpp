@@ -3,6 +3,8 @@
 #include "palette/color_match.h"
 #include "support/test_support.h"
 
+#include <random>
+
 namespace tavrin::test {
 namespace {
 
@@ -136,6 +138,51 @@ TEST_F(TempColorCheck, CachedAnswersEqualThePlainScanAcrossPaletteChanges) {
     loadPalette(dimmer, "dimmer.pal"); // changes the first 31 records only
     sweep();
     sweep();
+}
+
+} // namespace
+} // namespace tavrin::test
+
+namespace tavrin::test {
+namespace {
+
+// The fast matcher against the plain scan on tables a file could give: repeated colours
+// (ties), channels above 255, records whose index isn't their number, and colours that
+// aren't bytes at all.
+TEST(MatchCache, AnswersAsThePlainScanOnAnyTable) {
+    std::mt19937 rng(11);
+    vb::Array<PalRecord> table(0, 900);
+    for (int round = 0; round < 40; ++round) {
+        const int shades = 1 + static_cast<int>(rng() % 64); // few shades: many ties
+        for (int n = 0; n <= 257; ++n) {
+            PalRecord& r = table(n);
+            r.Red = static_cast<int32_t>(rng() % shades) * 4;
+            r.Green = static_cast<int32_t>(rng() % shades) * 4;
+            r.Blue = static_cast<int32_t>(rng() % (round % 5 == 0 ? 400 : 256));
+            r.Index = static_cast<int16_t>(round % 3 == 0 ? rng() % 300 : n);
+        }
+        MatchCache cache;
+        for (int k = 0; k < 3000; ++k) {
+            int32_t colour = static_cast<int32_t>(rng() & 0xFFFFFF);
+            if (k % 3 == 0) { // a colour of the table, exactly
+                const PalRecord& r = table(1 + static_cast<int>(rng() % 256));
+                colour = vb::RGB(r.Red, r.Green, r.Blue);
+            }
+            if (k % 97 == 0) colour = -1 - static_cast<int32_t>(rng() % 5);
+            if (k % 89 == 0) colour = 0x1000000 + static_cast<int32_t>(rng() % 999);
+            const int32_t near = static_cast<int32_t>(rng());
+            const MatchResult fast = cache.match(table, colour, near);
+            const MatchResult plain = matchColor(table, colour, near);
+            ASSERT_EQ(fast.checkColor, plain.checkColor) << round << " " << colour;
+            ASSERT_EQ(fast.indexSet, plain.indexSet);
+            ASSERT_EQ(fast.index, plain.index);
+            ASSERT_EQ(fast.nearSet, plain.nearSet);
+            if (plain.nearSet) {
+                ASSERT_EQ(fast.nearColor, plain.nearColor);
+            }
+            ASSERT_EQ(fast.nearDistance, plain.nearDistance);
+        }
+    }
 }
 
 } // namespace
