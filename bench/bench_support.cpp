@@ -1,7 +1,9 @@
 #include "bench_support.h"
 
+#include <cstdio>
 #include <filesystem>
 #include <fstream>
+#include <list>
 #include <random>
 #include <unistd.h>
 
@@ -11,8 +13,16 @@ namespace fs = std::filesystem;
 
 namespace {
 
+// Beside the program, on the disk the build lives on: the file paths are timed on a real
+// disk rather than wherever the temporary folder happens to be.
+fs::path programFolder() {
+    std::error_code ec;
+    const fs::path exe = fs::read_symlink("/proc/self/exe", ec);
+    return ec ? fs::current_path() : exe.parent_path();
+}
+
 std::string makeFolder() {
-    fs::path dir = fs::temp_directory_path() / ("tavrin-bench-" + std::to_string(getpid()));
+    fs::path dir = programFolder() / ("bench-files-" + std::to_string(getpid()));
     fs::create_directories(dir);
     fs::copy_file(TAVRIN_PALETTE_FILE, dir / "Quake2.PAL", fs::copy_options::overwrite_existing);
     return dir.string();
@@ -21,15 +31,15 @@ std::string makeFolder() {
 const std::string kRealSkin = "md2/SnowfallEagle-Volition3D/Bin/Assets/Models/Blade/blade.pcx";
 constexpr int kBig = 1024;
 
-std::vector<uint8_t> encodeBigSkin(const std::vector<uint8_t>& pixels) {
-    const int w = kBig, h = kBig;
+// A PCX of w x h taking its rows from the left of `pixels`, kBig wide.
+std::vector<uint8_t> encodeSkin(const std::vector<uint8_t>& pixels, int w, int h) {
     std::vector<uint8_t> out(128, 0);
     out[0] = 10, out[1] = 5, out[2] = 1, out[3] = 8;
     out[8] = (w - 1) & 0xFF, out[9] = (w - 1) >> 8, out[10] = (h - 1) & 0xFF,
     out[11] = (h - 1) >> 8;
     out[65] = 1, out[66] = w & 0xFF, out[67] = w >> 8, out[68] = 1;
     for (int y = 0; y < h; ++y) {
-        const uint8_t* row = pixels.data() + static_cast<std::size_t>(y) * w;
+        const uint8_t* row = pixels.data() + static_cast<std::size_t>(y) * kBig;
         for (int i = 0; i < w;) {
             int n = 1;
             while (i + n < w && row[i + n] == row[i] && n < 63)
@@ -100,17 +110,43 @@ void Editor::zoomIn(int presses) {
 
 void Editor::choosePencil() { frm.pEdit_Click(); }
 
+namespace {
+
+std::string writeSkin(const std::string& name, int w, int h) {
+    static const std::vector<uint8_t> pixels = bigSkinPixels();
+    const std::string p =
+        (programFolder() / (name + "-" + std::to_string(getpid()) + ".pcx")).string();
+    const std::vector<uint8_t> bytes = encodeSkin(pixels, w, h);
+    std::ofstream(p, std::ios::binary)
+        .write(reinterpret_cast<const char*>(bytes.data()),
+               static_cast<std::streamsize>(bytes.size()));
+    return p;
+}
+
+// Removes the skins written for the run when it ends.
+struct Written {
+    std::list<std::string> paths; // a list: the references handed out stay good
+    ~Written() {
+        for (const std::string& p : paths)
+            std::remove(p.c_str());
+    }
+};
+
+const std::string& keep(std::string path) {
+    static Written written;
+    written.paths.push_back(std::move(path));
+    return written.paths.back();
+}
+
+} // namespace
+
 const std::string& bigSkinPath() {
-    static const std::string path = [] {
-        std::string p =
-            (fs::temp_directory_path() / ("tavrin-bench-skin-" + std::to_string(getpid()) + ".pcx"))
-                .string();
-        std::vector<uint8_t> bytes = encodeBigSkin(bigSkinPixels());
-        std::ofstream(p, std::ios::binary)
-            .write(reinterpret_cast<const char*>(bytes.data()),
-                   static_cast<std::streamsize>(bytes.size()));
-        return p;
-    }();
+    static const std::string& path = keep(writeSkin("tavrin-bench-skin", kBig, kBig));
+    return path;
+}
+
+const std::string& tallSkinPath() {
+    static const std::string& path = keep(writeSkin("tavrin-bench-tall", 440, kBig));
     return path;
 }
 

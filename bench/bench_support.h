@@ -25,8 +25,12 @@ struct Editor {
 };
 
 // A 1024 x 1024 PCX with the runs of a painted skin: a real skin repeated when the real
-// files are there, else patches of one colour broken by noise. Written once per run.
+// files are there, else patches of one colour broken by noise. Written once per run,
+// beside the program. Wider than the reader takes whole: its open ends in the failure
+// path once the grid is decoded.
 const std::string& bigSkinPath();
+// The same pixels 440 x 1024: a skin that opens whole.
+const std::string& tallSkinPath();
 
 // The colours of a real skin if the real files are there, else of the big skin.
 std::vector<int32_t> skinColours();

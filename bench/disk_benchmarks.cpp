@@ -1,0 +1,129 @@
+// The paths a user waits for on the disk, in wall time against baselines doing the same
+// bytes of work on the same disk in the same run: opening a skin in a fresh editor and
+// again, and saving one.
+#include "bench_support.h"
+
+#include <benchmark/benchmark.h>
+
+#include <cstring>
+#include <fcntl.h>
+#include <filesystem>
+#include <memory>
+#include <sys/mman.h>
+#include <unistd.h>
+
+namespace tavrin::bench {
+
+namespace {
+
+void openSkin(Editor& e, const std::string& path) {
+    e.host.answerOpen(path);
+    e.host.answerMsgBox(platform::kMsgNo);
+    e.frm.pcxIm_Click();
+}
+
+// An open in an editor made just before, as a user's first open of a session meets it:
+// every grid and picture comes in fresh pages. Making the editor isn't timed.
+void firstOpen(benchmark::State& state, const std::string& path) {
+    for (auto _ : state) {
+        state.PauseTiming();
+        auto e = std::make_unique<Editor>();
+        state.ResumeTiming();
+        openSkin(*e, path);
+        state.PauseTiming();
+        e.reset();
+        state.ResumeTiming();
+    }
+}
+void firstOpenTall(benchmark::State& state) { firstOpen(state, tallSkinPath()); }
+void firstOpenWide(benchmark::State& state) { firstOpen(state, bigSkinPath()); }
+BENCHMARK(firstOpenTall)->Name("first_open/path")->Unit(benchmark::kMillisecond)->UseRealTime();
+BENCHMARK(firstOpenWide)
+    ->Name("first_open_failing/path")
+    ->Unit(benchmark::kMillisecond)
+    ->UseRealTime();
+
+void reopen(benchmark::State& state, const std::string& path) {
+    Editor e;
+    openSkin(e, path);
+    for (auto _ : state)
+        openSkin(e, path);
+}
+void reopenTall(benchmark::State& state) { reopen(state, tallSkinPath()); }
+void reopenWide(benchmark::State& state) { reopen(state, bigSkinPath()); }
+BENCHMARK(reopenTall)->Name("reopen/path")->Unit(benchmark::kMillisecond)->UseRealTime();
+BENCHMARK(reopenWide)->Name("reopen_failing/path")->Unit(benchmark::kMillisecond)->UseRealTime();
+
+// What an open must at least create: 2 bytes a pixel of grid and 4 of picture, copied
+// into pages fresh from the system.
+void copyIntoFreshPages(benchmark::State& state) {
+    const std::size_t bytes = std::size_t{440} * 1024 * 6;
+    std::vector<uint8_t> from(bytes, 7);
+    for (auto _ : state) {
+        void* to =
+            ::mmap(nullptr, bytes, PROT_READ | PROT_WRITE, MAP_PRIVATE | MAP_ANONYMOUS, -1, 0);
+        if (to == MAP_FAILED) state.SkipWithError("no memory");
+        std::memcpy(to, from.data(), bytes);
+        benchmark::DoNotOptimize(to);
+        benchmark::ClobberMemory();
+        ::munmap(to, bytes);
+    }
+}
+BENCHMARK(copyIntoFreshPages)
+    ->Name("first_open/baseline")
+    ->Unit(benchmark::kMillisecond)
+    ->UseRealTime();
+
+// The skin's file in one read.
+void readWhole(benchmark::State& state) {
+    const std::string& path = tallSkinPath();
+    std::vector<uint8_t> buffer(static_cast<std::size_t>(std::filesystem::file_size(path)));
+    for (auto _ : state) {
+        const int fd = ::open(path.c_str(), O_RDONLY | O_CLOEXEC);
+        const ssize_t n = ::read(fd, buffer.data(), buffer.size());
+        ::close(fd);
+        if (n != static_cast<ssize_t>(buffer.size())) state.SkipWithError("short read");
+        benchmark::DoNotOptimize(buffer.data());
+    }
+}
+BENCHMARK(readWhole)->Name("reopen/baseline")->Unit(benchmark::kMillisecond)->UseRealTime();
+
+// A save of the 1024 x 1024 skin over the file the last one wrote.
+void save(benchmark::State& state) {
+    Editor e;
+    e.openBigSkin();
+    const std::string target = e.folder + "/saved.pcx";
+    for (auto _ : state) {
+        e.host.answerSave(target);
+        e.frm.ex_Click();
+    }
+    if (e.frm.StatusBar1.Panels(1).Text.get() != "Ready...") state.SkipWithError("the save failed");
+}
+BENCHMARK(save)->Name("save/path")->Unit(benchmark::kMillisecond)->UseRealTime();
+
+// The same bytes written to a new file with one write, the old one removed first.
+void writeNewFile(benchmark::State& state) {
+    Editor e;
+    e.openBigSkin();
+    e.host.answerSave(e.folder + "/saved.pcx");
+    e.frm.ex_Click();
+    const std::string saved = e.folder + "/saved.PCX", target = e.folder + "/plain.PCX";
+    std::vector<uint8_t> bytes(static_cast<std::size_t>(std::filesystem::file_size(saved)));
+    {
+        const int fd = ::open(saved.c_str(), O_RDONLY | O_CLOEXEC);
+        if (::read(fd, bytes.data(), bytes.size()) != static_cast<ssize_t>(bytes.size()))
+            state.SkipWithError("short read");
+        ::close(fd);
+    }
+    for (auto _ : state) {
+        ::unlink(target.c_str());
+        const int fd = ::open(target.c_str(), O_WRONLY | O_CREAT | O_EXCL | O_CLOEXEC, 0666);
+        const ssize_t n = ::write(fd, bytes.data(), bytes.size());
+        ::close(fd);
+        if (n != static_cast<ssize_t>(bytes.size())) state.SkipWithError("short write");
+    }
+}
+BENCHMARK(writeNewFile)->Name("save/baseline")->Unit(benchmark::kMillisecond)->UseRealTime();
+
+} // namespace
+} // namespace tavrin::bench
