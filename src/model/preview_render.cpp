@@ -1,0 +1,211 @@
+#include "model/preview_render.h"
+
+#include <algorithm>
+#include <cmath>
+#include <limits>
+#include <numbers>
+
+namespace tavrin {
+
+namespace {
+
+using Vec = std::array<double, 3>;
+
+Vec sub(const Vec& a, const Vec& b) { return {a[0] - b[0], a[1] - b[1], a[2] - b[2]}; }
+Vec cross(const Vec& a, const Vec& b) {
+    return {a[1] * b[2] - a[2] * b[1], a[2] * b[0] - a[0] * b[2], a[0] * b[1] - a[1] * b[0]};
+}
+double dot(const Vec& a, const Vec& b) { return a[0] * b[0] + a[1] * b[1] + a[2] * b[2]; }
+Vec unit(const Vec& v) {
+    const double n = std::sqrt(dot(v, v));
+    return n > 0 ? Vec{v[0] / n, v[1] / n, v[2] / n} : Vec{0, 0, 0};
+}
+
+// A corner ready to rasterize: screen position, 1 / distance, and the texture
+// coordinates and light divided by the distance, so that they interpolate straight.
+struct Corner {
+    double x, y, w, uw, vw, lw;
+};
+
+// The model as the viewer sees it: turned by yaw about the up axis (z), then tilted by
+// pitch towards the viewer, who stands on the +x side. View x is towards the viewer,
+// y to the viewer's right, z up.
+struct Camera {
+    Vec centre{};
+    double cy, sy, cp, sp;
+    Vec turn(const Vec& p) const {
+        const double x1 = cy * p[0] - sy * p[1], y1 = sy * p[0] + cy * p[1];
+        return {cp * x1 + sp * p[2], y1, -sp * x1 + cp * p[2]};
+    }
+};
+
+// Light from the viewer's side, a little from above and the right. Both faces of a
+// triangle are lit alike: a model's winding says nothing here.
+double lightOf(const Vec& normal) {
+    static const Vec light = unit(Vec{1.0, 0.35, 0.6});
+    return 0.35 + 0.65 * std::abs(dot(normal, light));
+}
+
+// The light in 1/256ths, so that a channel takes one multiply.
+uint32_t shade(uint32_t c, double light) {
+    const auto l = static_cast<uint32_t>(std::lround(std::clamp(light, 0.0, 1.0) * 256));
+    auto part = [l](uint32_t v) { return std::min<uint32_t>(255, (v * l + 128) >> 8); };
+    return part(c & 0xFF) | part((c >> 8) & 0xFF) << 8 | part((c >> 16) & 0xFF) << 16;
+}
+
+uint32_t texel(const SkinTexture& skin, double u, double v) {
+    if (skin.width <= 0 || skin.height <= 0) return 0xFFFFFF;
+    const int x = std::clamp(static_cast<int>(std::floor(u)), 0, skin.width - 1);
+    const int y = std::clamp(static_cast<int>(std::floor(v)), 0, skin.height - 1);
+    return skin.px[static_cast<std::size_t>(y) * static_cast<std::size_t>(skin.width) +
+                   static_cast<std::size_t>(x)];
+}
+
+struct Target {
+    int width, height;
+    std::vector<uint32_t>& px;
+    std::vector<double>& depth; // 1 / distance; larger is nearer
+};
+
+// Fills the triangle's pixels whose centres it covers, nearer than what stands there. The
+// barycentric weights are edge functions stepped along each row rather than worked out
+// anew at every pixel.
+void fill(const Corner& a, const Corner& b, const Corner& c, bool flatLight, double faceLight,
+          const SkinTexture& skin, Target& t) {
+    const double area = (b.x - a.x) * (c.y - a.y) - (b.y - a.y) * (c.x - a.x);
+    if (!(std::abs(area) > 1e-12)) return;
+    const int x0 = std::max(0, static_cast<int>(std::floor(std::min({a.x, b.x, c.x}))));
+    const int x1 = std::min(t.width - 1, static_cast<int>(std::ceil(std::max({a.x, b.x, c.x}))));
+    const int y0 = std::max(0, static_cast<int>(std::floor(std::min({a.y, b.y, c.y}))));
+    const int y1 = std::min(t.height - 1, static_cast<int>(std::ceil(std::max({a.y, b.y, c.y}))));
+    // Weight of a corner at (px, py): the opposite edge's function over the area; it grows
+    // by dx along a row and by dy down a column.
+    struct Edge {
+        double dx, dy, at0;
+    };
+    auto edge = [&](const Corner& p, const Corner& q) {
+        const double dx = (p.y - q.y) / area, dy = (q.x - p.x) / area;
+        const double at0 =
+            ((p.x - (x0 + 0.5)) * (q.y - (y0 + 0.5)) - (p.y - (y0 + 0.5)) * (q.x - (x0 + 0.5))) /
+            area;
+        return Edge{dx, dy, at0};
+    };
+    const Edge ea = edge(b, c), eb = edge(c, a);
+    const Edge ec{-ea.dx - eb.dx, -ea.dy - eb.dy, 1 - ea.at0 - eb.at0};
+    const double ldw = flatLight ? 0 : 1;
+    for (int y = y0; y <= y1; ++y) {
+        // The stretch of the row where every weight can be positive, found from the three
+        // lines; the test below still decides each pixel at its ends.
+        double from = x0, to = x1;
+        for (const Edge& e : {ea, eb, ec}) {
+            const double w0 = e.at0 + (y - y0) * e.dy;
+            if (e.dx > 0)
+                from = std::max(from, x0 + std::floor(-w0 / e.dx));
+            else if (e.dx < 0)
+                to = std::min(to, x0 + std::ceil(w0 / -e.dx));
+            else if (w0 < 0)
+                to = from - 1;
+        }
+        if (!(from <= to)) continue;
+        const int first = static_cast<int>(from), last = static_cast<int>(to);
+        double wa = ea.at0 + (y - y0) * ea.dy + (first - x0) * ea.dx;
+        double wb = eb.at0 + (y - y0) * eb.dy + (first - x0) * eb.dx;
+        std::size_t at = static_cast<std::size_t>(y) * static_cast<std::size_t>(t.width) +
+                         static_cast<std::size_t>(first);
+        for (int x = first; x <= last; ++x, ++at, wa += ea.dx, wb += eb.dx) {
+            const double wc = 1 - wa - wb;
+            if (wa < 0 || wb < 0 || wc < 0) continue;
+            const double w = wa * a.w + wb * b.w + wc * c.w;
+            if (w <= t.depth[at]) continue;
+            t.depth[at] = w;
+            const double toWorld = 1 / w;
+            const double u = (wa * a.uw + wb * b.uw + wc * c.uw) * toWorld;
+            const double v = (wa * a.vw + wb * b.vw + wc * c.vw) * toWorld;
+            const double light =
+                flatLight ? faceLight : (wa * a.lw + wb * b.lw + wc * c.lw) * toWorld * ldw;
+            t.px[at] = shade(texel(skin, u, v), light);
+        }
+    }
+}
+
+} // namespace
+
+std::vector<uint32_t> renderPreview(const Md2Mesh& mesh, std::size_t frame, const SkinTexture& skin,
+                                    const PreviewView& view, int width, int height) {
+    width = std::max(width, 0);
+    height = std::max(height, 0);
+    const std::size_t pixels = static_cast<std::size_t>(width) * static_cast<std::size_t>(height);
+    std::vector<uint32_t> out(pixels, kPreviewBackground);
+    if (frame >= mesh.frames.size() || pixels == 0) return out;
+    const Md2Mesh::Frame& f = mesh.frames[frame];
+
+    std::vector<Vec> at(f.vertices.size());
+    Vec lo{std::numeric_limits<double>::max(), std::numeric_limits<double>::max(),
+           std::numeric_limits<double>::max()};
+    Vec hi{-lo[0], -lo[1], -lo[2]};
+    for (std::size_t v = 0; v < at.size(); ++v) {
+        const auto p = mesh.position(f, static_cast<uint16_t>(v));
+        at[v] = {p[0], p[1], p[2]};
+        for (std::size_t k = 0; k < 3; ++k) {
+            lo[k] = std::min(lo[k], at[v][k]);
+            hi[k] = std::max(hi[k], at[v][k]);
+        }
+    }
+    Camera cam;
+    cam.centre = {(lo[0] + hi[0]) / 2, (lo[1] + hi[1]) / 2, (lo[2] + hi[2]) / 2};
+    double radius = 0;
+    for (Vec& p : at) {
+        p = sub(p, cam.centre);
+        radius = std::max(radius, std::sqrt(dot(p, p)));
+    }
+    if (!(radius > 0) || !std::isfinite(radius)) radius = 1;
+    const double yaw = view.yaw * std::numbers::pi / 180,
+                 pitch = view.pitch * std::numbers::pi / 180;
+    cam.cy = std::cos(yaw), cam.sy = std::sin(yaw), cam.cp = std::cos(pitch),
+    cam.sp = std::sin(pitch);
+
+    // The viewer stands three radii away; the zoom changes the lens, never the distance, so
+    // the model can't come behind the viewer.
+    const double distance = 3 * radius;
+    // The nearest point of the model is two radii off: at zoom 1 nothing reaches past
+    // 0.475 of the picture's smaller side from the middle, however the model is turned.
+    const double focal = std::min(width, height) * 0.95 * std::max(view.zoom, 0.01);
+    std::vector<Vec> turned(at.size());
+    for (std::size_t v = 0; v < at.size(); ++v)
+        turned[v] = cam.turn(at[v]);
+
+    // Vertex normals: the sum of the faces round each vertex, weighted by their areas.
+    std::vector<Vec> normals(view.smooth ? turned.size() : 0, Vec{0, 0, 0});
+    if (view.smooth)
+        for (const auto& tri : mesh.triangles) {
+            const Vec n = cross(sub(turned[tri[1].vertex], turned[tri[0].vertex]),
+                                sub(turned[tri[2].vertex], turned[tri[0].vertex]));
+            for (const auto& corner : tri)
+                for (std::size_t k = 0; k < 3; ++k)
+                    normals[corner.vertex][k] += n[k];
+        }
+
+    std::vector<double> depth(pixels, 0.0);
+    Target target{width, height, out, depth};
+    for (const auto& tri : mesh.triangles) {
+        Corner corners[3];
+        for (std::size_t k = 0; k < 3; ++k) {
+            const Vec& p = turned[tri[k].vertex];
+            const double w = 1 / (distance - p[0]);
+            const auto& st = mesh.st[tri[k].st];
+            corners[k] = {width / 2.0 + focal * p[1] * w,
+                          height / 2.0 - focal * p[2] * w,
+                          w,
+                          st[0] * w,
+                          st[1] * w,
+                          view.smooth ? lightOf(unit(normals[tri[k].vertex])) * w : 0};
+        }
+        const double faceLight =
+            lightOf(unit(cross(sub(turned[tri[1].vertex], turned[tri[0].vertex]),
+                               sub(turned[tri[2].vertex], turned[tri[0].vertex]))));
+        fill(corners[0], corners[1], corners[2], !view.smooth, faceLight, skin, target);
+    }
+    return out;
+}
+
+} // namespace tavrin

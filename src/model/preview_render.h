@@ -1,0 +1,31 @@
+#pragma once
+// The model preview's picture: a frame of an MD2 model wearing the skin, drawn by a small
+// software rasterizer (perspective-correct texture, depth buffer, nearest texel), so that
+// it needs no graphics stack and gives the same pixels on every machine.
+#include "model/md2_mesh.h"
+
+#include <cstdint>
+#include <vector>
+
+namespace tavrin {
+
+// The skin as colours, one a skin pixel, packed 0x00BBGGRR, row by row.
+struct SkinTexture {
+    int width = 0, height = 0;
+    std::vector<uint32_t> px;
+};
+
+struct PreviewView {
+    double yaw = 0, pitch = 0; // degrees; yaw turns about the model's up axis
+    double zoom = 1;           // 1: the whole model fits the picture
+    bool smooth = true;        // lit by the vertex normals, else flat per triangle
+};
+
+inline constexpr uint32_t kPreviewBackground = 0x3A3A3A;
+
+// The picture, width x height packed colours, row by row. A frame out of range draws
+// nothing but the background.
+std::vector<uint32_t> renderPreview(const Md2Mesh& mesh, std::size_t frame, const SkinTexture& skin,
+                                    const PreviewView& view, int width, int height);
+
+} // namespace tavrin
