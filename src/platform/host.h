@@ -4,6 +4,7 @@
 // system, the date, the program's folder, the end of the program. The Qt host serves
 // the real program; the scripted host serves tests and the headless driver.
 #include "platform/raster.h"
+#include "platform/text_mask.h"
 
 #include <cstdint>
 #include <string>
@@ -45,6 +46,13 @@ public:
     // A form was loaded and shown, or unloaded.
     virtual void ShowForm(Form& form) = 0;
     virtual void UnloadForm(Form& form) = 0;
+
+    // Which pixels of the window (a part of the line, see TextMask) the text lights
+    // in the font. The window is never larger than the box that asks.
+    virtual TextMask RenderText(const FontSpec& font, const std::string& text,
+                                const PixelRect& window) = 0;
+    // Prints the form's client area, as it stands, on the current printer.
+    virtual void PrintForm(Form& form) = 0;
 
     // The folder of the program, without a trailing separator.
     virtual std::string AppPath() = 0;

@@ -17,6 +17,8 @@
 
 namespace platform {
 
+class Host;
+
 enum class ScaleUnit { Pixels, Twips, User };
 
 inline constexpr int kLineKind = 6;       // Line (x1, y1)-(x2, y2)
@@ -76,6 +78,19 @@ public:
     Prop<int> ForeColor{this, "ForeColor", 0};
     Prop<int> DrawMode{this, "DrawMode", kCopyPen};
     PictureProp Picture{this};
+    // The font Print uses.
+    struct FontProps {
+        Prop<std::string> Name;
+        Prop<double> Size;
+        Prop<bool> Bold, Italic, Underline;
+    };
+    FontProps Font{{this, "Font.Name"},
+                   {this, "Font.Size", 8.0},
+                   {this, "Font.Bold"},
+                   {this, "Font.Italic"},
+                   {this, "Font.Underline"}};
+    Prop<double> CurrentX{this, "CurrentX", 0.0}; // where Print starts, in the box's scale
+    Prop<double> CurrentY{this, "CurrentY", 0.0};
 
     int32_t Point(double x, double y) const; // -1 outside the inner area
     void PSet(double x, double y, int32_t color);
@@ -85,6 +100,10 @@ public:
     PictureHandle Image() const;
     void Cls();
     void Refresh();
+    // Prints a line of text at CurrentX, CurrentY in ForeColor and Font, as the host's
+    // fonts draw it, lighting only the text's own pixels; then the position goes to the
+    // start of the next line. (picture_text.cpp)
+    void Print(Host& host, const std::string& text);
 
     // The mouse on the box, as the form's events give it: Button 1 left, 2 right, 4 middle
     // (in a move, the buttons held, summed); Shift 1 Shift, 2 Ctrl, 4 Alt, summed; X and

@@ -25,6 +25,20 @@ public:
         int answer;
     };
 
+    // What a print put on paper: the form's visible controls where they stood, with
+    // their text or, for a picture box, its image.
+    struct PrintedControl {
+        std::string name;
+        double left, top, width, height; // twips, from the form's top left corner
+        std::string text;
+        PictureHandle picture;
+    };
+    struct PrintedPage {
+        std::string form;
+        double width, height;
+        std::vector<PrintedControl> controls;
+    };
+
     explicit ScriptedHost(std::string appPath = ".");
 
     // Queued answers; std::nullopt stands for Cancel.
@@ -45,10 +59,12 @@ public:
                        const std::optional<std::string>& result)>
         onDialog;
     std::function<void(MenuItem&)> onPopup;
+    std::function<void(const PrintedPage&)> onPrint;
 
     const std::vector<Shown>& messages() const { return messages_; }
     bool ended() const { return ended_; }
     int doEventsCount() const { return doEvents_; }
+    const std::vector<PrintedPage>& printed() const { return printed_; }
     std::string date = "11-23-2026";
 
     int MsgBox(const std::string& text, int style) override;
@@ -61,6 +77,10 @@ public:
     void PopupMenu(MenuItem& menu) override;
     void ShowForm(Form&) override {}
     void UnloadForm(Form&) override {}
+    // The built-in bitmap font (bitmapFontText), the same on every machine.
+    TextMask RenderText(const FontSpec& font, const std::string& text,
+                        const PixelRect& window) override;
+    void PrintForm(Form& form) override;
     std::string AppPath() override { return appPath_; }
     std::string Date() override { return date; }
     void End() override { ended_ = true; }
@@ -76,6 +96,7 @@ private:
     std::deque<std::optional<FontAnswer>> fonts_;
     std::deque<bool> printers_;
     std::vector<Shown> messages_;
+    std::vector<PrintedPage> printed_;
     bool ended_ = false;
     int doEvents_ = 0;
 };

@@ -94,8 +94,8 @@ bool QtHost::ShowFont(CommonDialog& dialog) {
 }
 
 bool QtHost::ShowPrinter(CommonDialog&) {
-    QPrinter printer;
-    QPrintDialog dialog(&printer, activeParent());
+    QPrintDialog dialog(&printer(), activeParent());
+    syncViews();
     return dialog.exec() == QDialog::Accepted;
 }
 

@@ -6,6 +6,8 @@
 #include <map>
 #include <memory>
 
+class QPrinter;
+
 namespace platform::qt {
 
 class FormWindow;
@@ -25,6 +27,11 @@ public:
     void PopupMenu(MenuItem& menu) override;
     void ShowForm(Form& form) override;
     void UnloadForm(Form& form) override;
+    // qt_text.cpp: QPainter's text, without antialiasing, at 96 pixels to the inch.
+    TextMask RenderText(const FontSpec& font, const std::string& text,
+                        const PixelRect& window) override;
+    // qt_print.cpp
+    void PrintForm(Form& form) override;
     std::string AppPath() override;
     std::string Date() override;
     void End() override;
@@ -32,10 +39,14 @@ public:
     FormWindow* windowFor(const Form& form) const;
     // Closes every window while the forms still stand: call before the forms go.
     void closeAll();
+    // The printer of the session, which the set-up dialog and every print share. With
+    // no printer installed it writes a PDF file (tavrin-print.pdf in the home folder).
+    QPrinter& printer();
 
 private:
     bool fileDialog(CommonDialog& dialog, bool save);
     std::map<const Form*, std::unique_ptr<FormWindow>> windows_;
+    std::unique_ptr<QPrinter> printer_;
 };
 
 } // namespace platform::qt
