@@ -19,6 +19,7 @@ using platform::PictureBox;
 using vb::Variant;
 
 class MatchCache; // palette/color_match.h
+struct LitPixels; // tools/text_scan.h
 
 class FrmMain : public MainControls {
 public:
@@ -43,6 +44,8 @@ public:
     void Picture2_MouseUp(int16_t Button, int16_t Shift, float X, float Y);
     // shell/toolbar.cpp
     void tbToolBar_ButtonClick(const std::string& Key);
+    // tools/text_tool.cpp
+    void Text7_KeyPress(int16_t& KeyAscii);
 
     static int32_t Pal_Relative(int32_t color) { return color | 0x2000000; }
 
@@ -111,6 +114,12 @@ private:
     void storeSkinPixel(double x, double y);
     void setBrushSize(bool ninePixels);
     void zoomStep(int16_t Button);
+
+    // ---------------- tools/text_tool.cpp ----------------
+    // A press of the text tool: keeps the pixel and opens the panel.
+    void placeText();
+    // Text_Pixels made anew from the preview's lit pixels.
+    LitPixels scanTextPreview();
 
     // ---------------- palette/color_pick.cpp, tint_value.cpp ----------------
     // The eye-dropper: the canvas pixel under the pointer becomes the current colour.

@@ -81,6 +81,7 @@ void FrmMain::buildCommandSurface() {
         Picture2_MouseUp(b, s, x, y);
     };
     Slider1.Change = [this] { Slider1_Change(); };
+    Text7.KeyPress = [this](int16_t& key) { Text7_KeyPress(key); };
 }
 
 } // namespace tavrin

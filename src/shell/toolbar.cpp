@@ -3,6 +3,16 @@
 
 namespace tavrin {
 
+namespace {
+
+// The text tool's preview font takes the style; the button shows it pressed while on.
+void toggleFontStyle(platform::Toolbar& bar, const std::string& key, platform::Prop<bool>& style) {
+    style = !style.get();
+    bar.setValue(key, style ? 1 : 0);
+}
+
+} // namespace
+
 // Guarded as one statement: a failure ends the click, nothing is shown.
 void FrmMain::tbToolBar_ButtonClick(const std::string& Key) {
     vb::resume([&] {
@@ -14,7 +24,17 @@ void FrmMain::tbToolBar_ButtonClick(const std::string& Key) {
             ex_Click();
         else if (Key == "Cut" || Key == "Copy" || Key == "Paste")
             host_.MsgBox("Not Yet.", platform::kStyleOk);
-        // Print and the font buttons come with the commands they run.
+        else if (Key == "Bold")
+            toggleFontStyle(tbToolBar, Key, Picture25.Font.Bold);
+        else if (Key == "Italic")
+            toggleFontStyle(tbToolBar, Key, Picture25.Font.Italic);
+        else if (Key == "Underline")
+            toggleFontStyle(tbToolBar, Key, Picture25.Font.Underline);
+        else if (Key == "Font") {
+            CommonDialog1.Flags = 3; // screen and printer fonts
+            platform::showFont(host_, CommonDialog1);
+            Picture25.Font.Name = CommonDialog1.FontName;
+        }
     });
 }
 

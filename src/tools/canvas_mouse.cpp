@@ -106,8 +106,11 @@ void FrmMain::Picture7_MouseDown(int16_t Button, int16_t Shift, float X, float Y
             // No conversion: the brush stands where the last move left Cur_X, Cur_Y.
             paintBrushAt(X, Y);
         } else if (Tool_Mode == "Blur" || Tool_Mode == "Fill" || Tool_Mode == "Air" ||
-                   Tool_Mode == "dTtint" || Tool_Mode == "Text") {
+                   Tool_Mode == "dTtint") {
             convertPosition(X, Y); // the tools of these words are still to come
+        } else if (Tool_Mode == "Text") {
+            convertPosition(X, Y);
+            placeText();
         }
 
         if (Tool_Mode != "Zoom")

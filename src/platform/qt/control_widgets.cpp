@@ -6,6 +6,7 @@
 
 #include <QApplication>
 #include <QFrame>
+#include <QKeyEvent>
 #include <QLabel>
 #include <QLineEdit>
 #include <QListWidget>
@@ -95,6 +96,31 @@ private:
     QLabel* label_;
 };
 
+// A text box whose KeyPress sees each typed character first, Enter as 13, and may
+// swallow it by setting the code to 0.
+class TextBoxWidget : public QLineEdit {
+public:
+    TextBoxWidget(TextBox& box, QWidget* parent) : QLineEdit(parent), box_(box) {
+        QObject::connect(this, &QLineEdit::textEdited, this,
+                         [this](const QString& text) { box_.Text = text.toStdString(); });
+    }
+
+protected:
+    void keyPressEvent(QKeyEvent* event) override {
+        const bool enter = event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter;
+        const QString typed = event->text();
+        if (box_.KeyPress && (enter || (typed.size() == 1 && typed[0].unicode() < 256))) {
+            auto code = static_cast<int16_t>(enter ? 13 : typed[0].unicode());
+            runEvent([&] { box_.KeyPress(code); });
+            if (code == 0) return;
+        }
+        QLineEdit::keyPressEvent(event);
+    }
+
+private:
+    TextBox& box_;
+};
+
 } // namespace
 
 QWidget* makeControlWidget(Control& control, QWidget* parent) {
@@ -115,14 +141,9 @@ QWidget* makeControlWidget(Control& control, QWidget* parent) {
     case ControlKind::Label:
         w = new QLabel(parent);
         break;
-    case ControlKind::TextBox: {
-        auto* edit = new QLineEdit(parent);
-        auto& box = static_cast<TextBox&>(control);
-        QObject::connect(edit, &QLineEdit::textEdited, edit,
-                         [&box](const QString& text) { box.Text = text.toStdString(); });
-        w = edit;
+    case ControlKind::TextBox:
+        w = new TextBoxWidget(static_cast<TextBox&>(control), parent);
         break;
-    }
     case ControlKind::ListBox:
         w = new QListWidget(parent);
         break;
