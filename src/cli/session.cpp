@@ -32,6 +32,17 @@ Session::Session(std::string appDir, std::ostream& out) : host_(std::move(appDir
         out_ << "dialog " << kind << ' ' << vb::quote(title) << " -> "
              << (result ? *result : std::string("cancel")) << '\n';
     };
+    host_.onPrint = [this](const platform::ScriptedHost::PrintedPage& page) {
+        out_ << "printed " << page.form << ' ' << vb::formatNumber(page.width) << ' '
+             << vb::formatNumber(page.height) << '\n';
+        for (const auto& c : page.controls) {
+            out_ << "printed " << page.form << '.' << c.name;
+            for (double v : {c.left, c.top, c.width, c.height})
+                out_ << ' ' << vb::formatNumber(v);
+            if (!c.picture) out_ << ' ' << vb::quote(c.text);
+            out_ << '\n';
+        }
+    };
 }
 
 Session::~Session() = default;

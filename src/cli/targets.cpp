@@ -1,6 +1,7 @@
 #include "cli/targets.h"
 
 #include "cli/script_error.h"
+#include "shell/frm_print.h"
 
 #include <functional>
 #include <vector>
@@ -14,11 +15,12 @@ struct FormEntry {
     std::function<platform::Form*(Session&)> get;
 };
 
-// The forms a name may start with; frmPrint gets its line when the print layout exists.
+// The forms a name may start with. Naming frmPrint loads it, as any use of it does.
 const std::vector<FormEntry>& forms() {
     static const std::vector<FormEntry> table = {
         {"frmMain", [](Session& s) -> platform::Form* { return &s.mainForm(); }},
         {"frmSplash", [](Session& s) -> platform::Form* { return &s.splash(); }},
+        {"frmPrint", [](Session& s) -> platform::Form* { return &s.mainForm().frmPrint(); }},
     };
     return table;
 }

@@ -20,12 +20,15 @@ using vb::Variant;
 
 class MatchCache; // palette/color_match.h
 struct LitPixels; // tools/text_scan.h
+class FrmPrint;   // shell/frm_print.h
 
 class FrmMain : public MainControls {
 public:
     // Makes the controls, lays them out from the shell's tables and wires their events.
     explicit FrmMain(platform::Host& host);
     platform::Host& host() { return host_; }
+    // The print layout, loaded at its first use (shell/printing.cpp).
+    FrmPrint& frmPrint();
 
     // ================= Procedures without arguments =================
 #define TAVRIN_PROCEDURE(name) void name();
@@ -62,6 +65,10 @@ private:
     // The tables applied to the controls and every event connected to its handler: the
     // one place where the window is wired.
     void buildCommandSurface();
+
+    // ---------------- shell/printing.cpp ----------------
+    // The skin, its path with the date, and its size on frmPrint.
+    void fillPrintForm(FrmPrint& form);
 
     // ---------------- palette/palette_table.cpp ----------------
     // Readers of Pal_Table call this when they have written it: the match's cache of
@@ -132,6 +139,7 @@ private:
     // The match's remembered answers, made at the first match. Shared, not unique: the
     // form knows the cache only by name.
     std::shared_ptr<MatchCache> matchCache_;
+    std::shared_ptr<FrmPrint> frmPrint_; // shared for the same reason
 };
 
 } // namespace tavrin

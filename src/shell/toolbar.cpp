@@ -22,6 +22,8 @@ void FrmMain::tbToolBar_ButtonClick(const std::string& Key) {
             pcxIm_Click();
         else if (Key == "Save")
             ex_Click();
+        else if (Key == "Print")
+            p_Click();
         else if (Key == "Cut" || Key == "Copy" || Key == "Paste")
             host_.MsgBox("Not Yet.", platform::kStyleOk);
         else if (Key == "Bold")

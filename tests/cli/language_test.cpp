@@ -85,7 +85,6 @@ TEST(ScriptLanguage, BadLinesAndUnknownNamesStopWithStatus2AndTheirLineNumber) {
         "print SSPanel1.NoSuchProperty",
         "print SSPanel1.Point 1 1",
         "type SSPanel1 \"x\"",
-        "click frmPrint",
         "dump picture SSPanel1 /tmp/never.ppm",
         "grip NoSuchGrip 5 5",
         "drop Picture2 1 1",

@@ -10,6 +10,7 @@
 #include <QLabel>
 #include <QMenu>
 #include <QMenuBar>
+#include <QMouseEvent>
 #include <QScreen>
 #include <QStatusBar>
 #include <QStyle>
@@ -24,7 +25,36 @@ FormWindow::FormWindow(Form& form) : form_(form), surface_(new QWidget(this)) {
     buildMenus();
     setWindowTitle(QString::fromStdString(form_.Caption.get()));
     watch(form_, [this] { setWindowTitle(QString::fromStdString(form_.Caption.get())); });
+    followForm();
     registerWindow(this);
+}
+
+// A back colour of the form's own (not one of the system's), the form's clicks on its
+// free area, and a maximise while it is shown.
+void FormWindow::followForm() {
+    const auto back = static_cast<uint32_t>(form_.BackColor.get());
+    if ((back & 0x80000000u) == 0) {
+        QPalette pal = surface_->palette();
+        pal.setColor(QPalette::Window,
+                     QColor(back & 0xFF, (back >> 8) & 0xFF, (back >> 16) & 0xFF));
+        surface_->setPalette(pal);
+    }
+    surface_->installEventFilter(this);
+    observers_.emplace_back(&form_, form_.observe([this](const PropBase* p) {
+        if (p != &form_.WindowState || !isVisible()) return;
+        applyWindowState();
+        // Read at once by whoever maximised it: the size the window takes, not a later one.
+        form_.Width.setFromView(width() * 15.0);
+        form_.Height.setFromView(height() * 15.0);
+    }));
+}
+
+bool FormWindow::eventFilter(QObject* watched, QEvent* event) {
+    if (watched == surface_ && event->type() == QEvent::MouseButtonRelease && form_.Click) {
+        const QPoint at = static_cast<QMouseEvent*>(event)->position().toPoint();
+        if (surface_->rect().contains(at) && !surface_->childAt(at)) runEvent(form_.Click);
+    }
+    return QMainWindow::eventFilter(watched, event);
 }
 
 FormWindow::~FormWindow() {

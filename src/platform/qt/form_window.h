@@ -42,9 +42,11 @@ protected:
     void closeEvent(QCloseEvent* event) override;
     void resizeEvent(QResizeEvent* event) override;
     void changeEvent(QEvent* event) override;
+    bool eventFilter(QObject* watched, QEvent* event) override;
 
 private:
     void buildControls();
+    void followForm();
     void buildMenus();
     void fillMenu(QMenu* menu, MenuItem* parent);
     void buildToolbar(class Toolbar& bar);
