@@ -32,11 +32,11 @@ Session::Session(std::string appDir, std::ostream& out) : host_(std::move(appDir
         out_ << "dialog " << kind << ' ' << vb::quote(title) << " -> "
              << (result ? *result : std::string("cancel")) << '\n';
     };
-    host_.onPrint = [this](const platform::ScriptedHost::PrintedPage& page) {
+    host_.onPrint = [this](const platform::Page& page) {
         out_ << "printed " << page.form << ' ' << vb::formatNumber(page.width) << ' '
              << vb::formatNumber(page.height) << '\n';
-        for (const auto& c : page.controls) {
-            out_ << "printed " << page.form << '.' << c.name;
+        for (const platform::PageItem& c : page.items) {
+            out_ << "printed " << page.form << '.' << c.control->name();
             for (double v : {c.left, c.top, c.width, c.height})
                 out_ << ' ' << vb::formatNumber(v);
             if (!c.picture) out_ << ' ' << vb::quote(c.text);

@@ -1,8 +1,6 @@
 #include "platform/scripted_host.h"
 
 #include "platform/controls.h"
-#include "platform/form.h"
-#include "platform/picture_box.h"
 
 namespace platform {
 
@@ -77,40 +75,8 @@ TextMask ScriptedHost::RenderText(const FontSpec& font, const std::string& text,
     return bitmapFontText(font, text, window);
 }
 
-namespace {
-
-// Shown on paper: visible, and so is every panel it stands in.
-bool onPaper(const Control& c) {
-    for (const Control* at = &c; at; at = at->Container)
-        if (!at->Visible) return false;
-    return true;
-}
-
-std::string textOf(const Control& c) {
-    if (const auto* label = dynamic_cast<const Label*>(&c)) return label->Caption;
-    if (const auto* panel = dynamic_cast<const Panel*>(&c)) return panel->Caption;
-    if (const auto* button = dynamic_cast<const CommandButton*>(&c)) return button->Caption;
-    if (const auto* box = dynamic_cast<const TextBox*>(&c)) return box->Text;
-    return "";
-}
-
-} // namespace
-
 void ScriptedHost::PrintForm(Form& form) {
-    PrintedPage page{form.name(), form.Width, form.Height, {}};
-    for (const Control* c : form.controls()) {
-        if (c->kind() == ControlKind::MenuItem || c->kind() == ControlKind::CommonDialog ||
-            !onPaper(*c))
-            continue;
-        PrintedControl printed{c->name(), c->Left, c->Top, c->Width, c->Height, textOf(*c), {}};
-        for (const Control* at = c->Container; at; at = at->Container) {
-            printed.left += at->Left;
-            printed.top += at->Top;
-        }
-        if (const auto* box = dynamic_cast<const PictureBox*>(c)) printed.picture = box->Image();
-        page.controls.push_back(std::move(printed));
-    }
-    printed_.push_back(std::move(page));
+    printed_.push_back(pageOf(form));
     if (onPrint) onPrint(printed_.back());
 }
 

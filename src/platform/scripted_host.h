@@ -1,6 +1,7 @@
 #pragma once
 // A host whose dialogs and message boxes are answered from queues: the host of the
 // tests and of the headless driver. It records what the editor showed.
+#include "platform/form_page.h"
 #include "platform/host.h"
 
 #include <deque>
@@ -25,20 +26,6 @@ public:
         int answer;
     };
 
-    // What a print put on paper: the form's visible controls where they stood, with
-    // their text or, for a picture box, its image.
-    struct PrintedControl {
-        std::string name;
-        double left, top, width, height; // twips, from the form's top left corner
-        std::string text;
-        PictureHandle picture;
-    };
-    struct PrintedPage {
-        std::string form;
-        double width, height;
-        std::vector<PrintedControl> controls;
-    };
-
     explicit ScriptedHost(std::string appPath = ".");
 
     // Queued answers; std::nullopt stands for Cancel.
@@ -59,12 +46,12 @@ public:
                        const std::optional<std::string>& result)>
         onDialog;
     std::function<void(MenuItem&)> onPopup;
-    std::function<void(const PrintedPage&)> onPrint;
+    std::function<void(const Page&)> onPrint;
 
     const std::vector<Shown>& messages() const { return messages_; }
     bool ended() const { return ended_; }
     int doEventsCount() const { return doEvents_; }
-    const std::vector<PrintedPage>& printed() const { return printed_; }
+    const std::vector<Page>& printed() const { return printed_; }
     std::string date = "11-23-2026";
 
     int MsgBox(const std::string& text, int style) override;
@@ -80,6 +67,7 @@ public:
     // The built-in bitmap font (bitmapFontText), the same on every machine.
     TextMask RenderText(const FontSpec& font, const std::string& text,
                         const PixelRect& window) override;
+    // Keeps the page, for printed() and onPrint.
     void PrintForm(Form& form) override;
     std::string AppPath() override { return appPath_; }
     std::string Date() override { return date; }
@@ -96,7 +84,7 @@ private:
     std::deque<std::optional<FontAnswer>> fonts_;
     std::deque<bool> printers_;
     std::vector<Shown> messages_;
-    std::vector<PrintedPage> printed_;
+    std::vector<Page> printed_;
     bool ended_ = false;
     int doEvents_ = 0;
 };
