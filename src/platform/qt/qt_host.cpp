@@ -9,12 +9,14 @@
 #include <QColorDialog>
 #include <QCursor>
 #include <QDate>
+#include <QDialogButtonBox>
 #include <QFileDialog>
 #include <QFontDialog>
 #include <QMenu>
 #include <QMessageBox>
 #include <QPrintDialog>
 #include <QPrinter>
+#include <QPushButton>
 
 namespace platform::qt {
 
@@ -93,8 +95,13 @@ bool QtHost::ShowFont(CommonDialog& dialog) {
     return true;
 }
 
+// The set-up: it chooses the printer and its settings for the prints to come, and
+// prints nothing itself.
 bool QtHost::ShowPrinter(CommonDialog&) {
     QPrintDialog dialog(&printer(), activeParent());
+    dialog.setWindowTitle("Print Setup");
+    if (auto* buttons = dialog.findChild<QDialogButtonBox*>())
+        if (QPushButton* ok = buttons->button(QDialogButtonBox::Ok)) ok->setText("OK");
     syncViews();
     return dialog.exec() == QDialog::Accepted;
 }
