@@ -70,6 +70,22 @@ save_skin_as() {
     fail "no saved file"
 }
 
+# Reads two skins with the headless driver SCRIPT and dumps their grids into
+# $WORK/before.grid and $WORK/after.grid. Usage: dump_grids SCRIPT BEFORE.pcx AFTER.pcx
+dump_grids() {
+    cat >"$WORK/grids.tvs" <<SCRIPT_END
+answer open "$2"
+answer msgbox no
+click pcxIm
+dump grid "$WORK/before.grid"
+answer open "$3"
+answer msgbox no
+click pcxIm
+dump grid "$WORK/after.grid"
+SCRIPT_END
+    "$1" "$WORK/grids.tvs" >/dev/null
+}
+
 # Answers a message box with a key.
 answer() {
     [ -n "$1" ] || fail "no message box"

@@ -42,17 +42,7 @@ shot painted.png
 
 save_skin_as "$main" "$WORK/saved"
 
-cat >"$WORK/grids.tvs" <<SCRIPT_END
-answer open "$WORK/skin.pcx"
-answer msgbox no
-click pcxIm
-dump grid "$WORK/before.grid"
-answer open "$WORK/saved.PCX"
-answer msgbox no
-click pcxIm
-dump grid "$WORK/after.grid"
-SCRIPT_END
-"$SCRIPT" "$WORK/grids.tvs" >/dev/null
+dump_grids "$SCRIPT" "$WORK/skin.pcx" "$WORK/saved.PCX"
 # cmp -l gives offset, old byte, new byte (octal); 208 is 320 in octal.
 changed=$(cmp -l "$WORK/before.grid" "$WORK/after.grid" | awk '
     $1 % 2 == 0 || $3 != 320 { bad = 1 } { n++ } END { print (bad ? "bad" : n + 0) }')

@@ -89,17 +89,7 @@ at $((text_panel_left + 220)) $((text_panel_top + 183))              # Close
 title_navy && fail "Close left the text panel open"
 
 save_skin_as "$main" "$WORK/saved"
-cat >"$WORK/grids.tvs" <<SCRIPT_END
-answer open "$WORK/skin.pcx"
-answer msgbox no
-click pcxIm
-dump grid "$WORK/before.grid"
-answer open "$WORK/saved.PCX"
-answer msgbox no
-click pcxIm
-dump grid "$WORK/after.grid"
-SCRIPT_END
-"$SCRIPT" "$WORK/grids.tvs" >/dev/null
+dump_grids "$SCRIPT" "$WORK/skin.pcx" "$WORK/saved.PCX"
 # cmp -l gives 1-based byte offsets: cell (offset - 1) / 2 of a 200-pixel row.
 changed=$(cmp -l "$WORK/before.grid" "$WORK/after.grid" | awk '
     { cell = int(($1 - 1) / 2); x = cell % 200; y = int(cell / 200)
@@ -129,6 +119,8 @@ xdotool key Down Down Down Down Down Down Down Return
 preview=$(wait_window "Tavrin PRINT FORM")
 sleep 0.5
 shot print-preview.png
+centre=$(xwd -root -silent | convert xwd:- -crop "1x1+$((width / 2))+$((height / 2))" txt:-)
+case "$centre" in *'#FFFFFF'*) fail "the skin is not in the middle of the preview" ;; esac
 xdotool mousemove 30 10 click 1
 sleep 0.5
 xdotool search --onlyvisible --name "^Tavrin PRINT FORM\$" >/dev/null || fail "a label ended the preview"

@@ -7,6 +7,7 @@
 
 #include <gtest/gtest.h>
 
+#include <algorithm>
 #include <string>
 
 namespace {
@@ -14,80 +15,6 @@ namespace {
 using platform::FontSpec;
 using platform::PixelRect;
 using platform::TextMask;
-
-// The mask as rows of '#' and '.', for comparing shapes at a glance.
-std::string picture(const TextMask& m) {
-    std::string s;
-    for (int64_t y = m.window.y0; y < m.window.y1; ++y) {
-        for (int64_t x = m.window.x0; x < m.window.x1; ++x)
-            s += m.at(x, y) ? '#' : '.';
-        s += '\n';
-    }
-    return s;
-}
-
-int64_t litCount(const TextMask& m) {
-    int64_t n = 0;
-    for (uint8_t v : m.lit)
-        n += v;
-    return n;
-}
-
-TEST(BitmapFont, ShapesOfTheStyles) {
-    const PixelRect cell{0, 0, 8, 9};
-    struct Case {
-        const char* name;
-        FontSpec font;
-        std::string shape; // "L": a stem and a foot
-    };
-    const Case cases[] = {
-        {"plain",
-         {"", 8, false, false, false},
-         "#.......\n#.......\n#.......\n#.......\n#.......\n#.......\n#####...\n........\n"
-         "........\n"},
-        {"bold",
-         {"", 8, true, false, false},
-         "##......\n##......\n##......\n##......\n##......\n##......\n######..\n........\n"
-         "........\n"},
-        {"italic",
-         {"", 8, false, true, false},
-         "..#.....\n.#......\n.#......\n.#......\n#.......\n#.......\n#####...\n........\n"
-         "........\n"},
-        {"underline",
-         {"", 8, false, false, true},
-         "#.......\n#.......\n#.......\n#.......\n#.......\n#.......\n#####...\n........\n"
-         "######..\n"},
-    };
-    for (const Case& c : cases)
-        EXPECT_EQ(picture(platform::bitmapFontText(c.font, "L", cell)), c.shape) << c.name;
-}
-
-TEST(BitmapFont, SizeScalesTheCellAndEveryCharacterTakesOne) {
-    struct Case {
-        double size;
-        std::string text;
-        int64_t lineHeight, width, lit;
-    };
-    // "I" lights 3 + 5 + 3 pixels at size 8, and the square of the scale times as many.
-    const int64_t iLit = 3 + 5 + 3;
-    const Case cases[] = {
-        {8, "I", 9, 6, iLit},
-        {12, "I", 18, 12, 4 * iLit},
-        {24, "II", 36, 48, 2 * 16 * iLit},
-        {-3, "I", 9, 6, iLit},
-        {8, "\xC3\xA9", 9, 6, 5 + 5 + 2 * 5}, // one character, not one in the font: a box
-    };
-    for (const Case& c : cases) {
-        const TextMask whole =
-            platform::bitmapFontText({"", c.size, false, false, false}, c.text, {0, 0, 200, 60});
-        EXPECT_EQ(whole.lineHeight, c.lineHeight) << c.size;
-        EXPECT_EQ(litCount(whole), c.lit) << c.size;
-        // Nothing lit from the second cell's column on, past the text.
-        const TextMask past = platform::bitmapFontText({"", c.size, false, false, false}, c.text,
-                                                       {c.width, 0, 200, 60});
-        EXPECT_EQ(litCount(past), 0) << c.size;
-    }
-}
 
 // A window onto the line is that part of the whole line, wherever it lies.
 TEST(BitmapFont, AnyWindowIsTheSamePartOfTheWholeLine) {

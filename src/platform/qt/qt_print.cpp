@@ -1,7 +1,7 @@
 // Printing a form on the session's printer: its page at 96 pixels to the inch.
 #include "platform/controls.h"
+#include "platform/form_page.h"
 #include "platform/picture_box.h"
-#include "platform/qt/print_page.h"
 #include "platform/qt/qt_host.h"
 
 #include <QDir>
@@ -57,8 +57,8 @@ void paintText(QPainter& painter, const PageItem& item, const QRect& at) {
                      QString::fromStdString(item.text));
 }
 
-} // namespace
-
+// The page at one unit a screen pixel: the back colour (white paper for a system
+// colour), each picture's pixels unsmoothed, each caption in its control's type.
 void paintPage(QPainter& painter, const Page& page) {
     const auto back = static_cast<uint32_t>(page.backColor);
     const QRect area(0, 0, static_cast<int>(page.width / 15.0),
@@ -74,6 +74,8 @@ void paintPage(QPainter& painter, const Page& page) {
             paintText(painter, item, at);
     }
 }
+
+} // namespace
 
 QPrinter& QtHost::printer() {
     if (!printer_) {
