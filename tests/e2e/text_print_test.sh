@@ -26,6 +26,7 @@ palette_top=$(navy_top $((palette_left + 40)))
 [ -n "$palette_top" ] || fail "the palette is not on the screen"
 surface_top=$((palette_top - 510 / 15))
 at() { xdotool mousemove "$1" $((surface_top + $2)) click 1; sleep 0.3; }
+pixel_at() { xwd -root -silent | convert xwd:- -crop "1x1+$1+$2" txt:-; }
 
 # Cell 221 (column 13, row 13): a yellow of the game's palette.
 xdotool mousemove $((palette_left + 13 + 13 * 11 + 5)) $((palette_top + 27 + 13 * 11 + 5)) click 1
@@ -79,9 +80,9 @@ answer "$(wait_window "Select Font")" Return
 sleep 0.3
 # The text panel's title bar is navy while it is open (right of its caption).
 title_navy() {
-    pixel=$(xwd -root -silent | convert xwd:- \
-        -crop "1x1+$((text_panel_left + 200))+$((surface_top + text_panel_top + 5))" txt:-)
-    case "$pixel" in *'#000080'*) return 0 ;; esac
+    case "$(pixel_at $((text_panel_left + 200)) $((surface_top + text_panel_top + 5)))" in
+    *'#000080'*) return 0 ;;
+    esac
     return 1
 }
 title_navy || fail "the text panel is not open"
@@ -116,11 +117,12 @@ done
 # File > Print Preview: a click on the label keeps it, one on the free area ends it.
 open_menu "$main" 20
 xdotool key Down Down Down Down Down Down Down Return
-preview=$(wait_window "Tavrin PRINT FORM")
+wait_window "Tavrin PRINT FORM" >/dev/null
 sleep 0.5
 shot print-preview.png
-centre=$(xwd -root -silent | convert xwd:- -crop "1x1+$((width / 2))+$((height / 2))" txt:-)
-case "$centre" in *'#FFFFFF'*) fail "the skin is not in the middle of the preview" ;; esac
+case "$(pixel_at $((width / 2)) $((height / 2)))" in
+*'#FFFFFF'*) fail "the skin is not in the middle of the preview" ;;
+esac
 xdotool mousemove 30 10 click 1
 sleep 0.5
 xdotool search --onlyvisible --name "^Tavrin PRINT FORM\$" >/dev/null || fail "a label ended the preview"

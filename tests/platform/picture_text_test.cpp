@@ -1,5 +1,5 @@
-// Text on a picture box through the headless host's bitmap font: which pixels a line
-// lights, in any window onto it, and what Print does to the box and its position.
+// Print on a picture box through the headless host's bitmap font: what it does to the box
+// and to its position.
 #include "platform/form.h"
 #include "platform/picture_box.h"
 #include "platform/scripted_host.h"
@@ -7,32 +7,11 @@
 
 #include <gtest/gtest.h>
 
-#include <algorithm>
 #include <string>
 
 namespace {
 
-using platform::FontSpec;
-using platform::PixelRect;
 using platform::TextMask;
-
-// A window onto the line is that part of the whole line, wherever it lies.
-TEST(BitmapFont, AnyWindowIsTheSamePartOfTheWholeLine) {
-    const FontSpec fonts[] = {
-        {"", 8, false, false, false}, {"", 12, true, true, true}, {"", 20, false, true, false}};
-    const PixelRect windows[] = {{3, 2, 17, 11}, {-5, -4, 6, 5}, {40, 0, 90, 30}, {0, 0, 0, 9}};
-    for (const FontSpec& f : fonts) {
-        const TextMask whole = platform::bitmapFontText(f, "Ag{~", {-10, -10, 120, 60});
-        for (const PixelRect& w : windows) {
-            const TextMask part = platform::bitmapFontText(f, "Ag{~", w);
-            ASSERT_EQ(part.lit.size(), static_cast<std::size_t>(
-                                           std::max<int64_t>(0, (w.x1 - w.x0) * (w.y1 - w.y0))));
-            for (int64_t y = w.y0; y < w.y1; ++y)
-                for (int64_t x = w.x0; x < w.x1; ++x)
-                    ASSERT_EQ(part.at(x, y), whole.at(x, y)) << f.size << " at " << x << "," << y;
-        }
-    }
-}
 
 struct PrintBox : ::testing::Test {
     platform::ScriptedHost host;
