@@ -11,6 +11,7 @@
 #include <QPrinterInfo>
 
 #include <algorithm>
+#include <cmath>
 
 namespace platform::qt {
 
@@ -50,7 +51,7 @@ void paintText(QPainter& painter, const PageItem& item, const QRect& at) {
         font.setBold(label->FontBold);
     }
     // In pixels: the painter's device may be a printer of its own resolution.
-    font.setPixelSize(std::max(1, static_cast<int>(points * 96.0 / 72.0 + 0.5)));
+    font.setPixelSize(static_cast<int>(std::lround(std::clamp(points * 96.0 / 72.0, 1.0, 1000.0))));
     painter.setFont(font);
     painter.setPen(Qt::black);
     painter.drawText(at, Qt::AlignLeft | Qt::AlignTop | Qt::TextWordWrap,
