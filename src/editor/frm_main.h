@@ -64,6 +64,14 @@ private:
     // Readers of Pal_Table call this when they have written it: the match's cache of
     // answers is only good for the palette it was made from.
     void paletteChanged();
+    // Where a palette reader draws its next colour in Picture2: 16 cells of 11 pixels a row.
+    struct PaletteCell {
+        int16_t x = 0, y = 0;
+    };
+    // A palette reader's step: the colour's cell drawn (a part above 255 drawn as 255),
+    // then, for records 0 to 257, the record filled and the cell moved on. False for the
+    // record past them, where the reading stops.
+    bool takePaletteColor(PaletteCell& cell, int record, double red, double green, double blue);
 
     // ---------------- editor/view.cpp ----------------
     // "Left", "Right", "Up", "Down": the canvas moves by the step, the picture with it.
