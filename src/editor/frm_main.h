@@ -80,11 +80,16 @@ private:
     void repaintCanvas();
     // The start of the open commands: clears the view, prepares the dialog, resets the zoom.
     void prepareOpenCommand(const char* pattern, const char* title, const char* kind);
+    // kind nullptr: the kind text stays as the last dialog left it.
     void prepareFileDialog(const char* pattern, const char* title, const char* kind);
     // The open dialog as prepared; its answer into File_Name, Cancel raises.
     void askFileToOpen();
-    // The showing of a loaded picture, before and after the busy pointer goes off.
+    // The showing of a loaded picture, before and after the busy pointer goes off. The
+    // end names no tool in SSPanel3: the callers that do so do it themselves.
     void showLoadedPictureStart();
+    // Its steps after the "Actual Pixels" toggle: the canvas takes picture1's size and
+    // the picture is measured.
+    void fitCanvasToPicture();
     // betweenCenters: what runs between the two centrings (a new skin takes its grid there).
     void showLoadedPictureEnd(double panelExtraHeight, void (FrmMain::*betweenCenters)() = nullptr);
 

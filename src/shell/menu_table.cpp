@@ -18,7 +18,7 @@ const std::vector<MenuRow>& menuTable() {
         {&F::im,            1, "&Open Skin",                         "",       off, on,  on,  nullptr},
         {&F::pcxIm,         2, "&PCX File",                          "",       off, on,  on,  &F::pcxIm_Click},
         {&F::MD2Im,         2, "&MD2 File",                          "",       off, off, off, nullptr},
-        {&F::OpenSkin,      2, "&Import Image",                      "",       off, off, off, nullptr},
+        {&F::OpenSkin,      2, "&Import Image",                      "",       off, off, off, &F::OpenSkin_Click},
         {&F::space,         1, "-",                                  "",       off, on,  on,  nullptr},
         {&F::IP,            1, "&Import Palette",                    "",       off, on,  on,  nullptr},
         {&F::ACT,           2, "&ACT Color Table (Adobe)",           "",       off, on,  on,  &F::ACT_Click},
