@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <cctype>
+#include <charconv>
 #include <cstddef>
 
 namespace tavrin {
@@ -14,24 +15,22 @@ constexpr std::size_t kScannedChars = 50;
 bool isDigit(char c) { return std::isdigit(static_cast<unsigned char>(c)) != 0; }
 
 // A sign, digits and a fraction, from the field's first character; 0 without digits.
+// Read the same whatever the system's locale calls a decimal point.
 double leadingNumber(std::string_view field) {
     std::size_t at = 0;
-    double sign = 1;
-    if (at < field.size() && (field[at] == '+' || field[at] == '-')) {
-        if (field[at] == '-') sign = -1;
-        ++at;
-    }
-    double value = 0;
+    const bool negative = !field.empty() && field[0] == '-';
+    if (!field.empty() && (field[0] == '+' || field[0] == '-')) ++at;
+    const std::size_t start = at;
+    bool digits = false;
     for (; at < field.size() && isDigit(field[at]); ++at)
-        value = value * 10 + (field[at] - '0');
-    if (at < field.size() && field[at] == '.') {
-        double scale = 1;
-        for (++at; at < field.size() && isDigit(field[at]); ++at) {
-            scale /= 10;
-            value += (field[at] - '0') * scale;
-        }
-    }
-    return sign * value;
+        digits = true;
+    if (at < field.size() && field[at] == '.')
+        for (++at; at < field.size() && isDigit(field[at]); ++at)
+            digits = true;
+    double value = 0;
+    if (digits)
+        std::from_chars(field.data() + start, field.data() + at, value, std::chars_format::fixed);
+    return negative ? -value : value;
 }
 
 // The field from `at` to the next blank within the scanned characters; `at` moves behind
