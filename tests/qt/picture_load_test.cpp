@@ -1,10 +1,14 @@
 // Pictures through the window's loader: Qt's readers for every kind of file, and the
 // headless host's bitmap reader checked against them on random bitmaps.
+#include "editor/frm_main.h"
 #include "platform/bmp_format.h"
+#include "platform/qt/form_window.h"
 #include "platform/qt/qt_host.h"
+#include "platform/scripted_host.h"
 #include "platform/vb_error.h"
 #include "support/bmp_writer.h"
 
+#include <QAction>
 #include <QImage>
 #include <QTemporaryDir>
 #include <gtest/gtest.h>
@@ -63,6 +67,21 @@ TEST(PictureLoad, APngComesInWholeThroughTheWindowsLoader) {
 
     EXPECT_FALSE(host.LoadPicture(dir.filePath("missing.png").toStdString()));
     EXPECT_FALSE(host.LoadPicture(write(dir, "text.png", {'n', 'o', 't', '\n'})));
+}
+
+// The command stays out of the user's reach in the window: its item is hidden and disabled.
+TEST(PictureLoad, TheImportImageItemIsHiddenAndDisabled) {
+    platform::ScriptedHost host;
+    tavrin::FrmMain frm{host};
+    platform::qt::FormWindow window(frm);
+    int found = 0;
+    for (QAction* a : window.findChildren<QAction*>()) {
+        if (a->text() != "&Import Image") continue;
+        ++found;
+        EXPECT_FALSE(a->isVisible());
+        EXPECT_FALSE(a->isEnabled());
+    }
+    EXPECT_EQ(found, 1);
 }
 
 // Random bitmaps of every kind the headless reader takes, through both readers.
