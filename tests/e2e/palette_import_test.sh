@@ -14,6 +14,7 @@ cp "$3" "$WORK/skin.pcx"
 # An ACT table: 768 bytes, byte k being (7k + 3) mod 256.
 k=0
 while [ "$k" -lt 768 ]; do
+    # shellcheck disable=SC2059 # the byte's octal escape is the format
     printf "\\$(printf %o $(((7 * k + 3) % 256)))"
     k=$((k + 1))
 done >"$WORK/table.act"
