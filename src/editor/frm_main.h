@@ -73,6 +73,11 @@ private:
     // record past them, where the reading stops.
     bool takePaletteColor(PaletteCell& cell, int record, double red, double green, double blue);
 
+    // ---------------- palette/palette_import.cpp ----------------
+    // The file dialog as prepared, its file into Pal_Path, then the reader.
+    void importPalette(const char* pattern, const char* title, const char* kind,
+                       void (FrmMain::*reader)());
+
     // ---------------- editor/view.cpp ----------------
     // "Left", "Right", "Up", "Down": the canvas moves by the step, the picture with it.
     void moveCanvas(platform::TwipsProp& edge, double twips);

@@ -8,23 +8,22 @@
 namespace tavrin {
 
 void FrmMain::ACT_Click() {
-    try {
-        prepareFileDialog("*.ACT", "Load ACT Color Table Palette", "Color Tables");
-        platform::showOpen(host_, CommonDialog1);
-        Pal_Path = CommonDialog1.FileName.get();
-        Get_Pal();
-    } catch (const vb::Error&) {
-        // Cancel: the path and the table stay as they were.
-    }
+    importPalette("*.ACT", "Load ACT Color Table Palette", "Color Tables", &FrmMain::Get_Pal);
 }
 
 void FrmMain::PAL2_Click() {
+    importPalette("*.PAL", ".PAL 256 Color Palette", "Color Palette's", &FrmMain::Get_PSPal);
+}
+
+void FrmMain::importPalette(const char* pattern, const char* title, const char* kind,
+                            void (FrmMain::*reader)()) {
     try {
-        prepareFileDialog("*.PAL", ".PAL 256 Color Palette", "Color Palette's");
+        prepareFileDialog(pattern, title, kind);
         platform::showOpen(host_, CommonDialog1);
         Pal_Path = CommonDialog1.FileName.get();
-        Get_PSPal();
+        (this->*reader)();
     } catch (const vb::Error&) {
+        // Cancel: the path and the table stay as they were.
     }
 }
 
