@@ -34,16 +34,22 @@ start_tavrin "$TAVRIN"
 main=$(press_ok)
 open_skin "$main" "$WORK/skin.pcx"
 
-# File > Import Palette > ACT Color Table (Adobe), then PAL palette (Paint Shop Pro ).
-open_menu "$main" 20
-xdotool key Down Down Down Right Return
-type_in_dialog "Load ACT Color Table Palette" "$WORK/table.act"
-sleep 0.5
+# File > Import Palette > the item the keys reach, then the file into the dialog of that
+# title. Under load the menu may take the keys before it is open: then again.
+import_palette() { # keys title path
+    for _ in 1 2 3; do
+        open_menu "$main" 20
+        # shellcheck disable=SC2086 # one key a word
+        xdotool key $1
+        timeout 5 xdotool search --sync --onlyvisible --name "^$2\$" >/dev/null 2>&1 && break
+        xdotool key Escape Escape Escape
+    done
+    type_in_dialog "$2" "$3"
+    sleep 0.5
+}
+import_palette "Down Down Down Right Return" "Load ACT Color Table Palette" "$WORK/table.act"
 save_skin_as "$main" "$WORK/act"
-open_menu "$main" 20
-xdotool key Down Down Down Right Down Return
-type_in_dialog ".PAL 256 Color Palette" "$WORK/colours.pal"
-sleep 0.5
+import_palette "Down Down Down Right Down Return" ".PAL 256 Color Palette" "$WORK/colours.pal"
 shot palette-imported.png
 save_skin_as "$main" "$WORK/pal"
 
