@@ -11,11 +11,11 @@ namespace {
 
 // A 24-bit picture whose pixel (x, y) is (x, y, 7).
 Bytes picture(int width, int height) {
-    BmpSpec spec{width, height, 24, false, false, false, {}, {}, {}};
+    BmpPlan plan{width, height, 24, false, false, false, {}, {}, {}};
     for (int y = 0; y < height; ++y)
         for (int x = 0; x < width; ++x)
-            spec.pixels.push_back(static_cast<uint32_t>(packed(x % 256, y, 7)));
-    return writeBmp(spec);
+            plan.pixels.push_back(static_cast<uint32_t>(packed(x % 256, y, 7)));
+    return writeBmp(plan);
 }
 
 std::string run(const std::string& script) {

@@ -22,9 +22,9 @@ int errorOf(const Bytes& file) {
 
 // Parts of five and six bits stretched over the byte: 31 of 31 is 255, 16 of 31 is 132.
 TEST(BmpFormat, NarrowPartsAreStretchedOverAByte) {
-    BmpSpec plain{
+    BmpPlan plain{
         3, 2, 16, false, false, false, {}, {}, {0x7C00, 0x03E0, 0x001F, 0x4000, 0x8000, 0}};
-    BmpSpec masked{3,  2, 16, false, false, true, {0xF800, 0x07E0, 0x001F},
+    BmpPlan masked{3,  2, 16, false, false, true, {0xF800, 0x07E0, 0x001F},
                    {}, {}}; // 5, 6 and 5 bits
     masked.pixels = {0xF800, 0x07E0, 0x0400, 0xFFFF, 0x0001, 0};
     EXPECT_EQ(platform::decodeBmp(writeBmp(plain)).px,
@@ -48,10 +48,10 @@ TEST(BmpFormat, RunsOfBytesAndOfNibblesWithEveryEscape) {
         {4, {3, 0x12, 0, 5, 0x34, 0x56, 0x70, 0, 0, 0, 0, 2, 2, 1, 1, 0x77, 0, 1}, {1, 2, 1, 3}},
     };
     for (const auto& c : cases) {
-        BmpSpec spec{4, 3, c.bits, false, false, false, {}, {}, std::vector<uint32_t>(12, 0)};
+        BmpPlan plan{4, 3, c.bits, false, false, false, {}, {}, std::vector<uint32_t>(12, 0)};
         for (uint32_t k = 0; k < 16; ++k)
-            spec.table.push_back(k * 0x010101);
-        Bytes file = writeBmp(spec);
+            plan.table.push_back(k * 0x010101);
+        Bytes file = writeBmp(plan);
         file.resize(file.size() - static_cast<std::size_t>(3 * ((4 * c.bits + 31) / 32 * 4)));
         file[30] = c.bits == 8 ? 1 : 2;
         file.insert(file.end(), c.runs.begin(), c.runs.end());

@@ -14,7 +14,7 @@
 
 namespace {
 
-using tavrin::test::BmpSpec;
+using tavrin::test::BmpPlan;
 using tavrin::test::writeBmp;
 using Bytes = std::vector<uint8_t>;
 const uint32_t kFiveFiveFive[3] = {0x7C00, 0x03E0, 0x001F};
@@ -70,7 +70,7 @@ TEST(PictureLoad, TheBitmapReaderAgreesWithQtsOnRandomBitmaps) {
     auto pick = [&](int n) { return static_cast<int>(rng() % static_cast<unsigned>(n)); };
     const int bitsChoices[] = {1, 4, 8, 16, 24, 32};
     for (int round = 0; round < 300; ++round) {
-        BmpSpec s;
+        BmpPlan s;
         s.width = 1 + pick(20);
         s.height = 1 + pick(12);
         s.bits = bitsChoices[pick(6)];

@@ -6,7 +6,7 @@
 
 namespace tavrin::test {
 
-struct BmpSpec {
+struct BmpPlan {
     int width = 1, height = 1;
     int bits = 24;        // 1, 4, 8, 16, 24 or 32
     bool topDown = false; // rows from the top (a negative height)
@@ -24,7 +24,7 @@ inline void putLE(std::vector<uint8_t>& out, uint32_t v, int bytes) {
 
 // An uncompressed bitmap. For 16 and 32 bits a pixel is the value stored; for 24 bits the
 // packed colour.
-inline std::vector<uint8_t> writeBmp(const BmpSpec& s) {
+inline std::vector<uint8_t> writeBmp(const BmpPlan& s) {
     const uint32_t header = s.os2 ? 12 : 40, entry = s.os2 ? 3 : 4;
     const uint32_t maskBytes = s.masks ? 12 : 0;
     const uint32_t tableBytes = static_cast<uint32_t>(s.table.size()) * entry;
