@@ -4,7 +4,7 @@
 # that did it are listed, to be kept in tests/data/regressions/<target>/.
 #
 #   TAVRIN_FUZZ_SECONDS   seconds per target (default 30)
-#   TAVRIN_FUZZ_TARGETS   which targets (default: all four)
+#   TAVRIN_FUZZ_TARGETS   which targets (default: all of them)
 #   TAVRIN_FUZZ_DIR       scratch folder for corpora and findings, kept between runs so
 #                         the corpora grow (default $TMPDIR/tavrin-fuzz)
 #   TAVRIN_FUZZ_ARGS      more libFuzzer options, e.g. "-max_len=4096"
@@ -13,7 +13,7 @@ set -eu
 cd "$(dirname "$0")/.."
 src="$(pwd)"
 seconds="${TAVRIN_FUZZ_SECONDS:-30}"
-targets="${TAVRIN_FUZZ_TARGETS:-pcx pal md2_frame md2_import}"
+targets="${TAVRIN_FUZZ_TARGETS:-pcx pal md2_frame md2_import text_palette bmp}"
 work="${TAVRIN_FUZZ_DIR:-${TMPDIR:-/tmp}/tavrin-fuzz}"
 realdata="${TAVRIN_REALDATA:-$src/../shared/realdata}"
 
@@ -45,6 +45,15 @@ for t in $targets; do
     pal) cp data/Quake2.PAL "$corpus/" && seed "$corpus" tests/data .pcx &&
          seed "$corpus" "$realdata/palettes" "" ;;
     md2_*) seed "$corpus" tests/data .md2 && seed "$corpus" "$realdata/md2" .md2 ;;
+    text_palette) seed "$corpus" "$realdata/palettes" .pal ;;
+    bmp) if command -v convert >/dev/null; then # a few bitmaps of each kind, made here
+             for kind in "-type truecolor" "-type palette" "-type palette -compress none" \
+                         "-colors 8 -type palette -depth 4" "-monochrome"; do
+                 # shellcheck disable=SC2086 # one option a word
+                 convert -size 13x7 plasma:fractal -seed 1 $kind "BMP3:$work/tmp/seed.bmp" &&
+                     cp "$work/tmp/seed.bmp" "$corpus/$(sha1sum <"$work/tmp/seed.bmp" | cut -c1-40)"
+             done
+         fi ;;
     esac
 
     echo "== fuzz_$t: $seconds s, corpus $corpus"

@@ -74,6 +74,19 @@ private:
     // Readers of Pal_Table call this when they have written it: the match's cache of
     // answers is only good for the palette it was made from.
     void paletteChanged();
+    // Where a palette reader draws its next colour in Picture2: 16 cells of 11 pixels a row.
+    struct PaletteCell {
+        int16_t x = 0, y = 0;
+    };
+    // A palette reader's step: the colour's cell drawn (a part above 255 drawn as 255),
+    // then, for records 0 to 257, the record filled and the cell moved on. False for the
+    // record past them, where the reading stops.
+    bool takePaletteColor(PaletteCell& cell, int record, double red, double green, double blue);
+
+    // ---------------- palette/palette_import.cpp ----------------
+    // The file dialog as prepared, its file into Pal_Path, then the reader.
+    void importPalette(const char* pattern, const char* title, const char* kind,
+                       void (FrmMain::*reader)());
 
     // ---------------- editor/view.cpp ----------------
     // "Left", "Right", "Up", "Down": the canvas moves by the step, the picture with it.
@@ -82,11 +95,16 @@ private:
     void repaintCanvas();
     // The start of the open commands: clears the view, prepares the dialog, resets the zoom.
     void prepareOpenCommand(const char* pattern, const char* title, const char* kind);
+    // kind nullptr: the kind text stays as the last dialog left it.
     void prepareFileDialog(const char* pattern, const char* title, const char* kind);
     // The open dialog as prepared; its answer into File_Name, Cancel raises.
     void askFileToOpen();
-    // The showing of a loaded picture, before and after the busy pointer goes off.
+    // The showing of a loaded picture, before and after the busy pointer goes off. The
+    // end names no tool in SSPanel3: the callers that do so do it themselves.
     void showLoadedPictureStart();
+    // Its steps after the "Actual Pixels" toggle: the canvas takes picture1's size and
+    // the picture is measured.
+    void fitCanvasToPicture();
     // betweenCenters: what runs between the two centrings (a new skin takes its grid there).
     void showLoadedPictureEnd(double panelExtraHeight, void (FrmMain::*betweenCenters)() = nullptr);
 

@@ -61,7 +61,7 @@ void FrmMain::prepareFileDialog(const char* pattern, const char* title, const ch
     CommonDialog1.FileName = pattern;
     CommonDialog1.Pattern = pattern;
     CommonDialog1.DialogTitle = title;
-    CommonDialog1.KindText = kind;
+    if (kind) CommonDialog1.KindText = kind;
 }
 
 void FrmMain::askFileToOpen() {
@@ -71,6 +71,10 @@ void FrmMain::askFileToOpen() {
 
 void FrmMain::showLoadedPictureStart() {
     ActualPixels_Click();
+    fitCanvasToPicture();
+}
+
+void FrmMain::fitCanvasToPicture() {
     Picture7.Width = picture1.Width;
     Picture7.Height = picture1.Height;
     Calc_Pixels();
@@ -97,7 +101,6 @@ void FrmMain::showLoadedPictureEnd(double panelExtraHeight, void (FrmMain::*betw
         Tool_Mode = "Zoom";
     frmCenter();
     Tool_Mode = "Zoom";
-    SSPanel3.Caption = "Zoom";
 }
 
 void FrmMain::Form_Resize() {

@@ -21,6 +21,7 @@ void FrmMain::NewSkin_Click() {
         Get_Frame();
         showLoadedPictureStart();
         showLoadedPictureEnd(400, &FrmMain::Get_NewSkin);
+        SSPanel3.Caption = "Zoom";
         StatusBar1.Panels(1).Text = "Ready";
         dropModelTables();
         Wire_Loaded = 0;

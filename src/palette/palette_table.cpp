@@ -21,25 +21,10 @@ void FrmMain::Get_Pal() {
         std::vector<uint8_t> bytes;
         const std::vector<Rgb> colors = readRawPalette(
             Files.GetWindow(1, first, first + 3 * kRawPaletteMostColors - 1, bytes), first);
-        int16_t x = 0, y = 0;
+        PaletteCell cell;
         for (std::size_t record = 0; record < colors.size(); ++record) {
             const Rgb c = colors[record];
-            Picture2.Line(x, y, x + 10, y + 10, vb::RGB(c.red, c.green, c.blue),
-                          platform::kFilledBoxKind);
-            // Two records past the palette proper are kept; the one drawn after them is not.
-            if (record > 257) break;
-            PalRecord& r = Pal_Table(static_cast<int>(record));
-            r.Red = c.red;
-            r.Green = c.green;
-            r.Blue = c.blue;
-            r.Index = static_cast<int16_t>(record);
-            r.Cell_X = x;
-            r.Cell_Y = y;
-            x = static_cast<int16_t>(x + 11);
-            if (x > 170) {
-                x = 0;
-                y = static_cast<int16_t>(y + 11);
-            }
+            if (!takePaletteColor(cell, static_cast<int>(record), c.red, c.green, c.blue)) break;
         }
         Files.Close(1);
         paletteChanged();
@@ -47,6 +32,27 @@ void FrmMain::Get_Pal() {
         paletteChanged(); // records may have been written before the failure
         host_.MsgBox("Path/File not found, or not a valid file.", platform::kStyleOk);
     }
+}
+
+bool FrmMain::takePaletteColor(PaletteCell& cell, int record, double red, double green,
+                               double blue) {
+    Picture2.Line(cell.x, cell.y, cell.x + 10, cell.y + 10, vb::RGB(red, green, blue),
+                  platform::kFilledBoxKind);
+    // Two records past the palette proper are kept; the one drawn after them is not.
+    if (record > 257) return false;
+    PalRecord& r = Pal_Table(record);
+    r.Red = vb::CLng(red);
+    r.Green = vb::CLng(green);
+    r.Blue = vb::CLng(blue);
+    r.Index = static_cast<int16_t>(record);
+    r.Cell_X = cell.x;
+    r.Cell_Y = cell.y;
+    cell.x = static_cast<int16_t>(cell.x + 11);
+    if (cell.x > 170) {
+        cell.x = 0;
+        cell.y = static_cast<int16_t>(cell.y + 11);
+    }
+    return true;
 }
 
 void FrmMain::paletteChanged() {

@@ -25,6 +25,12 @@ void showPrinter(Host& host, CommonDialog& dialog) {
     if (!host.ShowPrinter(dialog)) vb::raise(vb::CancelSelected);
 }
 
+PictureHandle loadPicture(Host& host, const std::string& path) {
+    PictureHandle picture = host.LoadPicture(path);
+    if (!picture) vb::raise(vb::InvalidPicture);
+    return picture;
+}
+
 void endProgram(Host& host) {
     host.End();
     throw vb::EndProgram{};

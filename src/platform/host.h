@@ -38,6 +38,10 @@ public:
     virtual bool ShowFont(CommonDialog& dialog) = 0;
     virtual bool ShowPrinter(CommonDialog& dialog) = 0;
 
+    // LoadPicture: the picture in the file, of any kind the platform reads (bitmaps at
+    // least); nothing when the file can't be read as a picture.
+    virtual PictureHandle LoadPicture(const std::string& path) = 0;
+
     // Serves the event queue once: other events may run on the editor's state.
     virtual void DoEvents() = 0;
     // Shows a menu of the form at the pointer and returns when it closes.
@@ -76,6 +80,9 @@ void showSave(Host& host, CommonDialog& dialog);
 void showColor(Host& host, CommonDialog& dialog);
 void showFont(Host& host, CommonDialog& dialog);
 void showPrinter(Host& host, CommonDialog& dialog);
+
+// LoadPicture as the editor calls it: a file that gives no picture raises "Invalid picture".
+PictureHandle loadPicture(Host& host, const std::string& path);
 
 // End: tells the host, then unwinds to the event dispatcher.
 [[noreturn]] void endProgram(Host& host);

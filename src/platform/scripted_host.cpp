@@ -1,6 +1,8 @@
 #include "platform/scripted_host.h"
 
+#include "platform/bmp_format.h"
 #include "platform/controls.h"
+#include "platform/vb_files.h"
 
 namespace platform {
 
@@ -78,6 +80,18 @@ TextMask ScriptedHost::RenderText(const FontSpec& font, const std::string& text,
 void ScriptedHost::PrintForm(Form& form) {
     printed_.push_back(pageOf(form));
     if (onPrint) onPrint(printed_.back());
+}
+
+PictureHandle ScriptedHost::LoadPicture(const std::string& path) {
+    try {
+        vb::FileTable files;
+        files.OpenForRead(1, path);
+        const std::vector<uint8_t> bytes =
+            files.GetBytes(1, 1, static_cast<std::size_t>(files.LOF(1)));
+        return std::make_shared<const Raster>(decodeBmp(bytes));
+    } catch (const vb::Error&) {
+        return nullptr;
+    }
 }
 
 void ScriptedHost::PopupMenu(MenuItem& menu) {

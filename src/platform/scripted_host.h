@@ -60,6 +60,8 @@ public:
     bool ShowColor(CommonDialog& dialog) override;
     bool ShowFont(CommonDialog& dialog) override;
     bool ShowPrinter(CommonDialog& dialog) override;
+    // Bitmaps only, through the reader of platform/bmp_format.h.
+    PictureHandle LoadPicture(const std::string& path) override;
     void DoEvents() override { ++doEvents_; }
     void PopupMenu(MenuItem& menu) override;
     void ShowForm(Form&) override {}

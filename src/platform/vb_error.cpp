@@ -32,6 +32,8 @@ std::string description(int number) {
         return "Path/File access error";
     case InvalidPropertyValue:
         return "Invalid property value";
+    case InvalidPicture:
+        return "Invalid picture";
     case CancelSelected:
         return "Cancel was selected.";
     default:

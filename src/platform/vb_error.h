@@ -23,6 +23,7 @@ enum ErrorNumber : int {
     BadRecordNumber = 63,
     PathFileAccess = 75,
     InvalidPropertyValue = 380,
+    InvalidPicture = 481,
     CancelSelected = 32755, // the common dialog's Cancel
 };
 

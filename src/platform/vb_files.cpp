@@ -14,10 +14,14 @@ namespace vb {
 struct FileTable::OpenFile {
     std::string path;
     bool writing = false;
+    bool input = false; // opened for Input: the text and its lines
     std::ifstream in;
     int64_t length = 0;
     bool eof = false;
     std::vector<uint8_t> out; // what a writer has put, written at Close
+    Reservation textMemory;
+    std::vector<uint8_t> text;
+    TextLines lines;
 };
 
 FileTable::FileTable() : files_(kMaxNumber + 1) {}
@@ -50,6 +54,20 @@ void FileTable::OpenForRead(int number, const std::string& path) {
     // An empty file is at its end before anything is read.
     f->eof = f->length == 0;
     slot = std::move(f);
+}
+
+void FileTable::OpenForInput(int number, const std::string& path) {
+    OpenForRead(number, path);
+    OpenFile& f = file(number);
+    try {
+        f.text = GetBytes(number, 1, static_cast<std::size_t>(f.length));
+        f.textMemory = Reservation(f.text.size(), 1);
+    } catch (const Error&) {
+        files_[static_cast<std::size_t>(number)].reset(); // a failed Open leaves nothing open
+        throw;
+    }
+    f.input = true;
+    f.lines = TextLines(f.text);
 }
 
 void FileTable::OpenForWrite(int number, const std::string& path) {
@@ -87,12 +105,21 @@ int64_t FileTable::LOF(int number) const {
     return f.writing ? static_cast<int64_t>(f.out.size()) : f.length;
 }
 
-bool FileTable::EOF_(int number) const { return file(number).eof; }
+bool FileTable::EOF_(int number) const {
+    const OpenFile& f = file(number);
+    return f.input ? f.lines.atEnd() : f.eof;
+}
+
+std::string FileTable::LineInput(int number) {
+    OpenFile& f = file(number);
+    if (!f.input) raise(BadFileMode);
+    return f.lines.LineInput();
+}
 
 std::size_t FileTable::read(int number, int64_t position, uint8_t* out, std::size_t count) {
     auto& f = file(number);
     if (position < 1) raise(BadRecordNumber);
-    if (f.writing) raise(BadFileMode);
+    if (f.writing || f.input) raise(BadFileMode);
     int64_t start = position - 1;
     std::size_t available = start >= f.length ? 0
                                               : static_cast<std::size_t>(std::min<int64_t>(

@@ -5,6 +5,7 @@
 // from memory; writers collect their bytes and the file is written once, at Close, as a
 // whole new file put in the old one's place (platform/file_replace.h).
 #include "platform/byte_window.h"
+#include "platform/text_lines.h"
 
 #include <cstdint>
 #include <fstream>
@@ -25,6 +26,9 @@ public:
 
     // Open path For Binary As #number, to read: the file must exist.
     void OpenForRead(int number, const std::string& path);
+    // Open path For Input As #number: a text file, read in one go and then taken a line
+    // at a time (LineInput; EOF_ once the last line is taken). The file must exist.
+    void OpenForInput(int number, const std::string& path);
     // Open path For Binary As #number, to write a new file that replaces whatever stands
     // at path when it is closed. The old file is never read: a save replaces it whole.
     // Raises, with the reason, when path can't be replaced.
@@ -47,6 +51,10 @@ public:
             acc |= static_cast<uint64_t>(bytes[i]) << (8 * i);
         variable = static_cast<T>(acc);
     }
+
+    // Line Input #number: the next line of a file opened for Input (text_lines.h);
+    // "Input past end of file" when every line has been taken.
+    std::string LineInput(int number);
 
     // The bytes from position on, up to count of them (fewer at the end of the file).
     // Sets EOF like a Get that ran short when fewer came back.

@@ -29,6 +29,7 @@ void FrmMain::pcxIm_Click() {
         showLoadedPictureStart();
         MousePointer = 0;
         showLoadedPictureEnd(450);
+        SSPanel3.Caption = "Zoom";
         StatusBar1.Panels(1).Text = "Ready...";
     } catch (const vb::Error&) {
         host_.MsgBox("There was a problem loading the file. Check the filename and/or format.",

@@ -4,6 +4,7 @@
 #include "platform/form.h"
 #include "platform/qt/dispatch.h"
 #include "platform/qt/form_window.h"
+#include "platform/vb_error.h"
 
 #include <QApplication>
 #include <QColorDialog>
@@ -12,6 +13,7 @@
 #include <QDialogButtonBox>
 #include <QFileDialog>
 #include <QFontDialog>
+#include <QImageReader>
 #include <QMenu>
 #include <QMessageBox>
 #include <QPrintDialog>
@@ -104,6 +106,26 @@ bool QtHost::ShowPrinter(CommonDialog&) {
         if (QPushButton* ok = buttons->button(QDialogButtonBox::Ok)) ok->setText("OK");
     syncViews();
     return dialog.exec() == QDialog::Accepted;
+}
+
+PictureHandle QtHost::LoadPicture(const std::string& path) {
+    QImageReader reader(QString::fromStdString(path));
+    reader.setDecideFormatFromContent(true);
+    // Transparency isn't shown: each pixel keeps the colour it has underneath.
+    const QImage image = reader.read().convertToFormat(QImage::Format_ARGB32);
+    if (image.isNull()) return nullptr;
+    try {
+        auto picture = std::make_shared<Raster>(image.width(), image.height(), 0);
+        for (int y = 0; y < image.height(); ++y) {
+            const auto* line = reinterpret_cast<const QRgb*>(image.constScanLine(y));
+            for (int x = 0; x < image.width(); ++x)
+                picture->at(x, y) = static_cast<uint32_t>(qRed(line[x]) | qGreen(line[x]) << 8 |
+                                                          qBlue(line[x]) << 16);
+        }
+        return picture;
+    } catch (const vb::Error&) { // too big to hold
+        return nullptr;
+    }
 }
 
 void QtHost::DoEvents() {

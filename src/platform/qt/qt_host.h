@@ -23,6 +23,9 @@ public:
     bool ShowColor(CommonDialog& dialog) override;
     bool ShowFont(CommonDialog& dialog) override;
     bool ShowPrinter(CommonDialog& dialog) override;
+    // Through Qt's image readers (BMP, PNG, GIF, JPEG and whatever plugins there are),
+    // chosen by the file's content, not its name.
+    PictureHandle LoadPicture(const std::string& path) override;
     void DoEvents() override;
     void PopupMenu(MenuItem& menu) override;
     void ShowForm(Form& form) override;
