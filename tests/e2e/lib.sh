@@ -6,18 +6,24 @@ set -eu
 fail() { echo "FAIL: $*" >&2; exit 1; }
 
 start_x() {
-    for n in $(seq 90 140); do
-        [ -e "/tmp/.X11-unix/X$n" ] || [ -e "/tmp/.X$n-lock" ] && continue
-        Xvfb ":$n" -screen 0 1280x1024x24 -nolisten tcp >/dev/null 2>&1 &
-        XVFB_PID=$!
-        export DISPLAY=":$n"
-        for _ in $(seq 50); do
-            xdpyinfo >/dev/null 2>&1 && return 0
-            sleep 0.1
-        done
-        kill "$XVFB_PID" 2>/dev/null || true
+    # Xvfb picks a free display itself and writes its number once it listens: tests
+    # running side by side never race for the same one.
+    displayfile="$(mktemp)"
+    Xvfb -displayfd 3 -screen 0 1280x1024x24 -nolisten tcp 3>"$displayfile" >/dev/null 2>&1 &
+    XVFB_PID=$!
+    for _ in $(seq 100); do
+        [ -s "$displayfile" ] && break
+        sleep 0.1
     done
-    fail "no X server could be started"
+    n=$(cat "$displayfile")
+    rm -f "$displayfile"
+    [ -n "$n" ] || fail "no X server could be started"
+    export DISPLAY=":$n"
+    for _ in $(seq 50); do
+        xdpyinfo >/dev/null 2>&1 && return 0
+        sleep 0.1
+    done
+    fail "the X server does not answer"
 }
 
 start_tavrin() {
