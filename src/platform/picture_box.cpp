@@ -108,15 +108,20 @@ void PictureBox::geometryChanged(const TwipsProp& prop) {
         if (innerH_ > 0) userH_ = userH_ / innerH_ * h;
     }
     std::shared_ptr<Raster> old = image_;
+    const bool drawnOn = drawnOn_;
     innerW_ = w;
     innerH_ = h;
     resetImage();
-    if (design_.autoRedraw && old) { // what was drawn stays where the box still has room
+    // What was drawn stays where there is room. A box drawn on since its last clear only:
+    // otherwise the old pixels are the back colour and picture that the new raster holds.
+    const int cw = old ? std::min(old->width, w) : 0, ch = old ? std::min(old->height, h) : 0;
+    if (design_.autoRedraw && drawnOn && cw > 0 && ch > 0) {
+        if (image_.use_count() > 1) image_ = std::make_shared<Raster>(*image_); // the picture's
         Raster& r = *image_;
-        int cw = std::min(old->width, w), ch = std::min(old->height, h);
-        for (int y = 0; cw > 0 && y < ch; ++y)
+        for (int y = 0; y < ch; ++y)
             std::copy_n(&old->px[static_cast<std::size_t>(y) * old->width], cw,
                         &r.px[static_cast<std::size_t>(y) * w]);
+        drawnOn_ = true;
     }
     if (!design_.autoRedraw) ops_.clear();
     changedPixels(inner());
@@ -126,8 +131,15 @@ void PictureBox::geometryChanged(const TwipsProp& prop) {
 
 void PictureBox::resetImage() {
     spares_ = {};
+    drawnOn_ = false;
     if (!design_.autoRedraw) {
         image_.reset();
+        return;
+    }
+    // A picture that fills the box is all the box shows: the box takes the picture's
+    // raster and copies it only when something is drawn on it (writable), instead of now.
+    if (picture_ && picture_->width == innerW_ && picture_->height == innerH_) {
+        image_ = std::const_pointer_cast<Raster>(picture_);
         return;
     }
     std::shared_ptr<Raster> r;
@@ -181,6 +193,7 @@ Raster& PictureBox::writable(const PixelRect& touched) {
         *back = Spare{std::move(image_), PixelRect{}};
         image_ = std::move(next);
     }
+    drawnOn_ = true;
     const PixelRect t = touched.intersect(inner());
     image_->lineage.written = image_->lineage.written.unite(t);
     for (Spare& s : spares_)

@@ -147,6 +147,7 @@ private:
     double userW_ = 0, userH_ = 0; // user scale extents
     int innerW_ = 0, innerH_ = 0;
     std::shared_ptr<Raster> image_; // AutoRedraw boxes
+    bool drawnOn_ = false;          // image_ holds more than the back colour and picture_
     // Rasters the box let go to picture handles, each with the part where it may differ
     // from image_. Two, as the undo snapshot holds one of them for a whole stroke while
     // the box and the canvas's picture pass the other back and forth.
