@@ -32,6 +32,10 @@ const std::string& bigSkinPath();
 // The same pixels 440 x 1024: a skin that opens whole.
 const std::string& tallSkinPath();
 
+// The first opens in a fresh editor, registered after every other benchmark: they leave
+// the allocator giving fresh pages for the rest of the run.
+void registerFirstOpens();
+
 // The colours of a real skin if the real files are there, else of the big skin.
 std::vector<int32_t> skinColours();
 

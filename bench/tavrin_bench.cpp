@@ -48,6 +48,7 @@ int main(int argc, char** argv) {
     }
     int count = static_cast<int>(args.size());
     benchmark::Initialize(&count, args.data());
+    tavrin::bench::registerFirstOpens();
     Collector collector;
     benchmark::RunSpecifiedBenchmarks(&collector);
 
