@@ -117,6 +117,9 @@ QWidget* makeControlWidget(Control& control, QWidget* parent) {
         break;
     case ControlKind::TextBox: {
         auto* edit = new QLineEdit(parent);
+        // Filled with the panel's colour, it is opaque: a new text repaints the box alone,
+        // not the panel under it too.
+        edit->setAutoFillBackground(true);
         auto& box = static_cast<TextBox&>(control);
         QObject::connect(edit, &QLineEdit::textEdited, edit,
                          [&box](const QString& text) { box.Text = text.toStdString(); });
@@ -147,7 +150,8 @@ QWidget* makeControlWidget(Control& control, QWidget* parent) {
     return w;
 }
 
-void updateControlWidget(Control& control, QWidget* widget) {
+void updateControlWidget(Control& control, QWidget* widget, const PropBase* changed) {
+    const auto is = [changed](const PropBase& p) { return changed == nullptr || changed == &p; };
     switch (control.kind()) {
     case ControlKind::Panel:
         static_cast<PanelWidget*>(widget)->setCaption(static_cast<Panel&>(control).Caption);
@@ -169,16 +173,20 @@ void updateControlWidget(Control& control, QWidget* widget) {
     case ControlKind::Label: {
         auto& c = static_cast<Label&>(control);
         auto* l = static_cast<QLabel*>(widget);
-        l->setText(qs(c.Caption));
-        QFont f = l->font();
-        f.setPointSizeF(c.FontSize);
-        f.setBold(c.FontBold);
-        l->setFont(f);
+        if (is(c.Caption)) l->setText(qs(c.Caption));
+        if (is(c.FontSize) || is(c.FontBold)) {
+            QFont f = l->font();
+            f.setPointSizeF(c.FontSize);
+            f.setBold(c.FontBold);
+            l->setFont(f);
+        }
         break;
     }
     case ControlKind::TextBox: {
+        auto& c = static_cast<TextBox&>(control);
         auto* e = static_cast<QLineEdit*>(widget);
-        QString text = qs(static_cast<TextBox&>(control).Text);
+        if (!is(c.Text)) break;
+        QString text = qs(c.Text);
         if (e->text() != text) e->setText(text);
         break;
     }
