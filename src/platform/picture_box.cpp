@@ -266,7 +266,12 @@ void PictureBox::PSet(double x, double y, int32_t color) {
     int64_t px = toPixelX(x), py = toPixelY(y);
     if (!inner().contains(px, py)) return;
     if (design_.autoRedraw) {
-        plot(writable(PixelRect{px, py, px + 1, py + 1}), px, py, rgb24(color));
+        // A pixel set to what it holds changes nothing: nothing to copy, nothing to
+        // repaint (a stroke sets the same pixel at each move until the pointer leaves it).
+        const uint32_t c = rgb24(color);
+        const uint32_t now = image_->at(static_cast<int>(px), static_cast<int>(py));
+        if ((DrawMode.get() == kXorPen ? (now ^ c) : c) == now) return;
+        plot(writable(PixelRect{px, py, px + 1, py + 1}), px, py, c);
     } else {
         ops_.push_back(LineOp{LineSegment{static_cast<int32_t>(px), static_cast<int32_t>(py),
                                           static_cast<int32_t>(px), static_cast<int32_t>(py)},

@@ -218,6 +218,28 @@ TEST(PictureBox, APictureThatFillsTheBoxIsSharedYetNeverDrawnOn) {
     }
 }
 
+// A view repaints what the box reports as damaged: a pixel set to what it already shows
+// (the copy pen with its colour, the XOR pen with 0) reports nothing; any other does.
+TEST(PictureBox, OnlyAPixelThatChangesIsDamaged) {
+    struct Case {
+        int pen;
+        int32_t color;
+        bool damaged;
+    };
+    for (const Case c :
+         {Case{platform::kCopyPen, kGrey, false}, Case{platform::kCopyPen, kRed, true},
+          Case{platform::kXorPen, 0, false}, Case{platform::kXorPen, kRed, true}}) {
+        Box b(4, 4);
+        b.box.DrawMode = c.pen;
+        b.box.takeDamage();
+        const platform::PictureHandle before = b.box.Image();
+        b.box.PSet(1, 2, c.color);
+        EXPECT_EQ(!b.box.takeDamage().empty(), c.damaged) << c.pen << " " << c.color;
+        EXPECT_EQ(b.box.Point(1, 2), c.pen == platform::kXorPen ? kGrey ^ c.color : c.color);
+        EXPECT_EQ(before->at(1, 2), static_cast<uint32_t>(kGrey)); // a snapshot stays as it was
+    }
+}
+
 TEST(PictureBox, AHugeSizeIsRefusedWithoutAllocating) {
     Box b(4, 4);
     b.box.Width = 20000 * 15;
