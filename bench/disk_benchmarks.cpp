@@ -8,6 +8,7 @@
 #include <cstring>
 #include <fcntl.h>
 #include <filesystem>
+#include <fstream>
 #include <malloc.h>
 #include <memory>
 #include <sys/mman.h>
@@ -68,6 +69,30 @@ void copyIntoFreshPages(benchmark::State& state) {
         ::munmap(to, bytes);
     }
 }
+
+// Every 8-bit skin among the real files, opened in turn in one editor: the figure to set
+// beside another decoder's time for the same files.
+void openRealSkins(benchmark::State& state) {
+    std::vector<std::string> skins;
+    std::error_code ec;
+    for (auto it = std::filesystem::recursive_directory_iterator(TAVRIN_REALDATA, ec);
+         !ec && it != std::filesystem::recursive_directory_iterator(); it.increment(ec)) {
+        std::string ext = it->path().extension().string();
+        for (char& c : ext)
+            c = static_cast<char>(std::tolower(static_cast<unsigned char>(c)));
+        if (ext != ".pcx" || !it->is_regular_file()) continue;
+        uint8_t header[66] = {};
+        std::ifstream(it->path(), std::ios::binary).read(reinterpret_cast<char*>(header), 66);
+        if (header[3] == 8 && header[65] == 1) skins.push_back(it->path().string());
+    }
+    if (skins.empty()) state.SkipWithError("no real skins");
+    Editor e;
+    for (auto _ : state)
+        for (const std::string& skin : skins)
+            openSkin(e, skin);
+    state.counters["skins"] = static_cast<double>(skins.size());
+}
+BENCHMARK(openRealSkins)->Name("real_skins_open")->Unit(benchmark::kMillisecond)->UseRealTime();
 
 // The skin's file in one read.
 void readWhole(benchmark::State& state) {
