@@ -3,6 +3,7 @@
 #include "platform/form.h"
 #include "platform/picture_box.h"
 #include "platform/vb_error.h"
+#include "platform/vb_memory.h"
 
 #include <gtest/gtest.h>
 
@@ -238,6 +239,28 @@ TEST(PictureBox, OnlyAPixelThatChangesIsDamaged) {
         EXPECT_EQ(b.box.Point(1, 2), c.pen == platform::kXorPen ? kGrey ^ c.color : c.color);
         EXPECT_EQ(before->at(1, 2), static_cast<uint32_t>(kGrey)); // a snapshot stays as it was
     }
+}
+
+// A box's pixels count against the memory limit once, made or still to be made, however
+// often it is cleared, resized or given a picture: a box of more than half the limit
+// stays usable.
+TEST(PictureBox, PixelsCountOnceWhetherMadeOrNot) {
+    Box b(7200, 7200); // 207 MB, over half the limit
+    const std::size_t counted = vb::liveBytes();
+    const std::function<void()> steps[] = {
+        [&] { b.box.Cls(); },
+        [&] { b.box.Point(1, 1); },
+        [&] { b.box.Picture = numbered(10, 10); },
+        [&] { b.box.Picture = platform::PictureHandle{}; },
+        [&] { b.box.PSet(1, 1, kRed); },
+        [&] { b.box.BackColor = kGreen; },
+    };
+    for (int round = 0; round < 2; ++round)
+        for (const auto& step : steps) {
+            ASSERT_NO_THROW(step());
+            EXPECT_LE(vb::liveBytes(), counted + 10 * 10 * 4); // and the picture it holds
+            EXPECT_GE(vb::liveBytes(), counted);
+        }
 }
 
 TEST(PictureBox, AHugeSizeIsRefusedWithoutAllocating) {
