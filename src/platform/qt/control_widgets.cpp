@@ -9,6 +9,7 @@
 #include <QLabel>
 #include <QLineEdit>
 #include <QListWidget>
+#include <QPainter>
 #include <QProgressBar>
 #include <QPushButton>
 #include <QSlider>
@@ -95,6 +96,36 @@ private:
     QLabel* label_;
 };
 
+// A text box as the stock control drew it: a flat field in a sunken two-pixel border.
+// The style's own frame, rounded and shaded, costs as much to paint again as the text
+// does, and the X and Y boxes get a new text at nearly every move of the mouse.
+class TextBoxEdit : public QLineEdit {
+public:
+    explicit TextBoxEdit(QWidget* parent) : QLineEdit(parent) {
+        setFrame(false);
+        setTextMargins(2, 2, 2, 2);
+        // Opaque: a new text repaints the box alone, not the panel under it too.
+        setAutoFillBackground(true);
+    }
+
+protected:
+    void paintEvent(QPaintEvent* event) override {
+        QLineEdit::paintEvent(event);
+        // Plain fills: drawn as lines, the border would cost as much as the text.
+        QPainter p(this);
+        const QPalette& c = palette();
+        const int w = width(), h = height();
+        p.fillRect(0, 0, w, 1, c.dark()); // outer edge: shadow above and left, light below
+        p.fillRect(0, 0, 1, h, c.dark());
+        p.fillRect(0, h - 1, w, 1, c.light());
+        p.fillRect(w - 1, 0, 1, h, c.light());
+        p.fillRect(1, 1, w - 2, 1, c.shadow()); // inner edge
+        p.fillRect(1, 1, 1, h - 2, c.shadow());
+        p.fillRect(1, h - 2, w - 2, 1, c.midlight());
+        p.fillRect(w - 2, 1, 1, h - 2, c.midlight());
+    }
+};
+
 } // namespace
 
 QWidget* makeControlWidget(Control& control, QWidget* parent) {
@@ -116,10 +147,7 @@ QWidget* makeControlWidget(Control& control, QWidget* parent) {
         w = new QLabel(parent);
         break;
     case ControlKind::TextBox: {
-        auto* edit = new QLineEdit(parent);
-        // Filled with the panel's colour, it is opaque: a new text repaints the box alone,
-        // not the panel under it too.
-        edit->setAutoFillBackground(true);
+        auto* edit = new TextBoxEdit(parent);
         auto& box = static_cast<TextBox&>(control);
         QObject::connect(edit, &QLineEdit::textEdited, edit,
                          [&box](const QString& text) { box.Text = text.toStdString(); });
