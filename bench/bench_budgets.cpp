@@ -16,6 +16,9 @@ const std::vector<Budget>& budgets() {
         {"first open 440x1024, fresh editor", "first_open/path", "first_open/baseline", 2, false,
          true},
         {"save 1024x1024 to disk", "save/path", "save/baseline", 3, false, true},
+        {"mouse move, zoom 8, Qt window", "mouse_move/path", "mouse_move/baseline", 3, false},
+        {"pencil stroke move, zoom 8, Qt window", "mouse_stroke/path", "mouse_stroke/baseline", 6,
+         false},
     };
     return all;
 }

@@ -21,8 +21,12 @@ fs::path programFolder() {
     return ec ? fs::current_path() : exe.parent_path();
 }
 
+// One for each editor: an editor made and dropped while another works (the benchmark's
+// skin is written on first use) takes only its own folder with it.
 std::string makeFolder() {
-    fs::path dir = programFolder() / ("bench-files-" + std::to_string(getpid()));
+    static int made = 0;
+    fs::path dir = programFolder() /
+                   ("bench-files-" + std::to_string(getpid()) + "-" + std::to_string(++made));
     fs::create_directories(dir);
     fs::copy_file(TAVRIN_PALETTE_FILE, dir / "Quake2.PAL", fs::copy_options::overwrite_existing);
     return dir.string();

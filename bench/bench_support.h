@@ -32,6 +32,11 @@ const std::string& bigSkinPath();
 // The same pixels 440 x 1024: a skin that opens whole.
 const std::string& tallSkinPath();
 
+// What the program does as the child of a first open's benchmark: opens the skin at path
+// once, in an editor made just before, and prints the wall and processor time of the open
+// in nanoseconds.
+int firstOpenChild(const char* path);
+
 // The colours of a real skin if the real files are there, else of the big skin.
 std::vector<int32_t> skinColours();
 

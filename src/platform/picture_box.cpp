@@ -107,16 +107,20 @@ void PictureBox::geometryChanged(const TwipsProp& prop) {
         if (innerW_ > 0) userW_ = userW_ / innerW_ * w;
         if (innerH_ > 0) userH_ = userH_ / innerH_ * h;
     }
-    std::shared_ptr<Raster> old = image_;
+    // What was drawn stays where there is room; a box with nothing drawn on it shows the
+    // back colour and the picture, as its new pixels will.
+    const std::shared_ptr<Raster> old = drawnOn_ ? image_ : nullptr;
     innerW_ = w;
     innerH_ = h;
     resetImage();
-    if (design_.autoRedraw && old) { // what was drawn stays where the box still has room
-        Raster& r = *image_;
-        int cw = std::min(old->width, w), ch = std::min(old->height, h);
-        for (int y = 0; cw > 0 && y < ch; ++y)
+    const int cw = old ? std::min(old->width, w) : 0, ch = old ? std::min(old->height, h) : 0;
+    if (cw > 0 && ch > 0) {
+        raster();
+        if (image_.use_count() > 1) image_ = std::make_shared<Raster>(*image_); // the picture's
+        for (int y = 0; y < ch; ++y)
             std::copy_n(&old->px[static_cast<std::size_t>(y) * old->width], cw,
-                        &r.px[static_cast<std::size_t>(y) * w]);
+                        &image_->px[static_cast<std::size_t>(y) * w]);
+        drawnOn_ = true;
     }
     if (!design_.autoRedraw) ops_.clear();
     changedPixels(inner());
@@ -124,23 +128,39 @@ void PictureBox::geometryChanged(const TwipsProp& prop) {
 
 // ---- content ----
 
+// The box's pixels become the back colour and the picture. They are made when first
+// needed, from what stands then, so that a box resized, cleared or given a picture several
+// times over (a load does all three) makes them once; their memory counts from now.
 void PictureBox::resetImage() {
     spares_ = {};
-    if (!design_.autoRedraw) {
-        image_.reset();
+    drawnOn_ = false;
+    image_.reset();
+    unmade_ = vb::Reservation(); // the old pixels go before the new ones are counted
+    if (!design_.autoRedraw) return;
+    if (fillingPicture())
+        makeImage(); // costs nothing
+    else
+        unmade_ = vb::Reservation(static_cast<std::size_t>(innerW_) * innerH_, sizeof(uint32_t));
+}
+
+bool PictureBox::fillingPicture() const {
+    return picture_ && picture_->width == innerW_ && picture_->height == innerH_;
+}
+
+Raster& PictureBox::raster() const {
+    if (!image_) makeImage();
+    return *image_;
+}
+
+void PictureBox::makeImage() const {
+    unmade_ = vb::Reservation(); // the raster counts its own bytes, or the picture's
+    // A picture that fills the box is all the box shows: the box takes the picture's
+    // raster and copies it only when something is drawn on it (writable), instead of now.
+    if (fillingPicture()) {
+        image_ = std::const_pointer_cast<Raster>(picture_);
         return;
     }
-    std::shared_ptr<Raster> r;
-    if (image_ && image_.use_count() == 1 && image_->width == innerW_ &&
-        image_->height == innerH_) {
-        // Cleared in place: a box that held a huge picture alone can always be cleared,
-        // without a second one beside it for a moment.
-        r = std::move(image_);
-        std::fill(r->px.begin(), r->px.end(), rgb24(BackColor));
-        r->lineage = {};
-    } else {
-        r = std::make_shared<Raster>(innerW_, innerH_, rgb24(BackColor));
-    }
+    auto r = std::make_shared<Raster>(innerW_, innerH_, rgb24(BackColor));
     if (picture_) {
         int cw = std::min(picture_->width, innerW_), ch = std::min(picture_->height, innerH_);
         for (int y = 0; cw > 0 && y < ch; ++y)
@@ -155,6 +175,7 @@ void PictureBox::resetImage() {
 // copy the whole picture: instead the box keeps the rasters it let go and, once nobody
 // else holds one, takes it back, copying in only the pixels written since it was let go.
 Raster& PictureBox::writable(const PixelRect& touched) {
+    raster();
     if (image_.use_count() > 1) {
         Spare* back = nullptr;
         for (Spare& s : spares_)
@@ -181,6 +202,7 @@ Raster& PictureBox::writable(const PixelRect& touched) {
         *back = Spare{std::move(image_), PixelRect{}};
         image_ = std::move(next);
     }
+    drawnOn_ = true;
     const PixelRect t = touched.intersect(inner());
     image_->lineage.written = image_->lineage.written.unite(t);
     for (Spare& s : spares_)
@@ -229,7 +251,7 @@ int32_t PictureBox::Point(double x, double y) const {
     int64_t px = toPixelX(x), py = toPixelY(y);
     if (!inner().contains(px, py)) return -1;
     if (design_.autoRedraw)
-        return static_cast<int32_t>(image_->at(static_cast<int>(px), static_cast<int>(py)));
+        return static_cast<int32_t>(raster().at(static_cast<int>(px), static_cast<int>(py)));
     for (auto it = ops_.rbegin(); it != ops_.rend(); ++it) {
         if (auto* line = std::get_if<LineOp>(&*it)) {
             if (line->seg.contains(px, py)) return static_cast<int32_t>(line->color);
@@ -253,7 +275,12 @@ void PictureBox::PSet(double x, double y, int32_t color) {
     int64_t px = toPixelX(x), py = toPixelY(y);
     if (!inner().contains(px, py)) return;
     if (design_.autoRedraw) {
-        plot(writable(PixelRect{px, py, px + 1, py + 1}), px, py, rgb24(color));
+        // A pixel set to what it holds changes nothing: nothing to copy, nothing to
+        // repaint (a stroke sets the same pixel at each move until the pointer leaves it).
+        const uint32_t c = rgb24(color);
+        const uint32_t now = raster().at(static_cast<int>(px), static_cast<int>(py));
+        if ((DrawMode.get() == kXorPen ? (now ^ c) : c) == now) return;
+        plot(writable(PixelRect{px, py, px + 1, py + 1}), px, py, c);
     } else {
         ops_.push_back(LineOp{LineSegment{static_cast<int32_t>(px), static_cast<int32_t>(py),
                                           static_cast<int32_t>(px), static_cast<int32_t>(py)},
@@ -377,7 +404,10 @@ PixelRect PictureBox::boundsOf(const Op& op) {
 }
 
 PictureHandle PictureBox::Image() const {
-    if (design_.autoRedraw) return image_;
+    if (design_.autoRedraw) {
+        raster();
+        return image_;
+    }
     auto r = std::make_shared<Raster>(innerW_, innerH_, 0u);
     render(inner(), r->px.data(), innerW_);
     return r;

@@ -157,6 +157,9 @@ private:
     Raster& writable(const PixelRect& touched); // the raster, unshared, about to change there
     void plot(Raster& r, int64_t x, int64_t y, uint32_t color) const;
     void resetImage();
+    void makeImage() const;
+    bool fillingPicture() const; // the picture is as large as the inner area
+    Raster& raster() const;      // image_, made first if it is still to be made
     void changedPixels(const PixelRect& area) { damage_ = damage_.unite(area.intersect(inner())); }
     PixelRect repaintedArea(const PaintOp& cover) const;
     static PixelRect boundsOf(const Op& op);
@@ -165,7 +168,11 @@ private:
     ScaleUnit unit_;
     double userW_ = 0, userH_ = 0; // user scale extents
     int innerW_ = 0, innerH_ = 0;
-    std::shared_ptr<Raster> image_; // AutoRedraw boxes
+    // AutoRedraw boxes: the pixels, or none until they are needed after a clear or a
+    // resize, while unmade_ counts their memory.
+    mutable std::shared_ptr<Raster> image_;
+    mutable vb::Reservation unmade_;
+    bool drawnOn_ = false; // image_ holds more than the back colour and picture_
     // Rasters the box let go to picture handles, each with the part where it may differ
     // from image_. Two, as the undo snapshot holds one of them for a whole stroke while
     // the box and the canvas's picture pass the other back and forth.

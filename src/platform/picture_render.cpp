@@ -43,8 +43,9 @@ void PictureBox::render(const PixelRect& region, uint32_t* dst, std::ptrdiff_t s
     };
     const int64_t width = area.x1 - area.x0;
     if (design_.autoRedraw) {
+        const Raster& image = raster();
         for (int64_t y = area.y0; y < area.y1; ++y) {
-            const uint32_t* row = &image_->px[static_cast<std::size_t>(y) * innerW_ + area.x0];
+            const uint32_t* row = &image.px[static_cast<std::size_t>(y) * innerW_ + area.x0];
             if (xrgb)
                 std::transform(row, row + width, out(area.x0, y), toXrgb);
             else

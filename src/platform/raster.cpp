@@ -60,7 +60,8 @@ Lineage& Lineage::operator=(const Lineage& from) {
 Raster::Raster(int w, int h, uint32_t fill) : width(w), height(h) {
     auto count = static_cast<std::size_t>(w) * static_cast<std::size_t>(h);
     memory = vb::Reservation(count, sizeof(uint32_t));
-    px.assign(count, fill);
+    px.resize(count); // calloc's zeros
+    if (fill != 0) std::fill(px.begin(), px.end(), fill);
 }
 
 PixelRect PixelRect::intersect(const PixelRect& o) const {

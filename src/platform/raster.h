@@ -2,6 +2,7 @@
 // Pixels, lines and stretching: the pixel maths under every picture box. Colours are
 // packed 0x00BBGGRR. Pictures are shared, immutable rasters: taking a box's Image
 // costs nothing until the box is drawn on again (copy on write in PictureBox).
+#include "platform/vb_array.h"
 #include "platform/vb_memory.h"
 
 #include <cstdint>
@@ -37,8 +38,10 @@ struct Raster {
     Raster(int w, int h, uint32_t fill);
     int width = 0;
     int height = 0;
-    vb::Reservation memory;   // before px, so a copy is counted before it is made
-    std::vector<uint32_t> px; // row by row, width * height
+    vb::Reservation memory; // before px, so a copy is counted before it is made
+    // Row by row, width * height. From calloc: a black raster costs nothing until it is
+    // drawn on, so a picture sized before it is filled writes its pages once.
+    vb::ZeroedVector<uint32_t> px;
     Lineage lineage;
 
     uint32_t at(int x, int y) const { return px[static_cast<std::size_t>(y) * width + x]; }

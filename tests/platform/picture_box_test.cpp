@@ -3,10 +3,12 @@
 #include "platform/form.h"
 #include "platform/picture_box.h"
 #include "platform/vb_error.h"
+#include "platform/vb_memory.h"
 
 #include <gtest/gtest.h>
 
 #include <array>
+#include <functional>
 #include <memory>
 #include <random>
 #include <vector>
@@ -159,6 +161,108 @@ TEST(PictureBox, ImageIsASnapshotAndPictureCopiesItIntoAnotherBox) {
     EXPECT_EQ(c.box.Point(3, 3), kGreen);
 }
 
+// A box that a picture fills shows the picture's own pixels until it is drawn on, and a
+// resize keeps the box's drawing only where there is one: in every order the box shows
+// what a box with pixels of its own would, and the picture it was given never changes.
+TEST(PictureBox, APictureThatFillsTheBoxIsSharedYetNeverDrawnOn) {
+    struct Case {
+        const char* name;
+        std::function<void(PictureBox&)> steps;
+        std::vector<std::array<int32_t, 3>> shown; // x, y, what Point gives there
+    };
+    const auto px = [](int x, int y) { return x + 16 * y; }; // the numbered picture's pixel
+    const std::vector<Case> cases = {
+        {"drawn on", [](PictureBox& b) { b.PSet(1, 1, kRed); }, {{1, 1, kRed}, {2, 1, px(2, 1)}}},
+        {"grown after drawing",
+         [](PictureBox& b) {
+             b.PSet(1, 1, kRed);
+             b.Width = 6 * 15;
+         },
+         {{1, 1, kRed}, {3, 2, px(3, 2)}, {4, 0, kGrey}}},
+        {"shrunk and grown, never drawn on",
+         [](PictureBox& b) {
+             b.Width = 2 * 15;
+             b.Width = 4 * 15;
+         },
+         {{3, 2, px(3, 2)}}},
+        {"drawn on, shrunk and grown",
+         [](PictureBox& b) {
+             b.PSet(0, 0, kRed);
+             b.PSet(3, 0, kRed);
+             b.Width = 2 * 15;
+             b.Width = 4 * 15;
+         },
+         {{0, 0, kRed}, {3, 0, px(3, 0)}}},
+        {"drawn on while smaller, grown until the picture fills it",
+         [](PictureBox& b) {
+             b.Height = 2 * 15;
+             b.PSet(0, 1, kRed);
+             b.Height = 3 * 15;
+         },
+         {{0, 1, kRed}, {1, 2, px(1, 2)}}},
+        {"cleared after drawing",
+         [](PictureBox& b) {
+             b.PSet(2, 2, kRed);
+             b.Cls();
+         },
+         {{2, 2, px(2, 2)}}},
+    };
+    for (const Case& c : cases) {
+        Box b(4, 3);
+        const platform::PictureHandle picture = numbered(4, 3);
+        const auto before = picture->px;
+        b.box.Picture = picture;
+        c.steps(b.box);
+        for (const auto& [x, y, want] : c.shown)
+            EXPECT_EQ(b.box.Point(x, y), want) << c.name << " at " << x << ", " << y;
+        EXPECT_EQ(picture->px, before) << c.name;
+    }
+}
+
+// A view repaints what the box reports as damaged: a pixel set to what it already shows
+// (the copy pen with its colour, the XOR pen with 0) reports nothing; any other does.
+TEST(PictureBox, OnlyAPixelThatChangesIsDamaged) {
+    struct Case {
+        int pen;
+        int32_t color;
+        bool damaged;
+    };
+    for (const Case c :
+         {Case{platform::kCopyPen, kGrey, false}, Case{platform::kCopyPen, kRed, true},
+          Case{platform::kXorPen, 0, false}, Case{platform::kXorPen, kRed, true}}) {
+        Box b(4, 4);
+        b.box.DrawMode = c.pen;
+        b.box.takeDamage();
+        const platform::PictureHandle before = b.box.Image();
+        b.box.PSet(1, 2, c.color);
+        EXPECT_EQ(!b.box.takeDamage().empty(), c.damaged) << c.pen << " " << c.color;
+        EXPECT_EQ(b.box.Point(1, 2), c.pen == platform::kXorPen ? kGrey ^ c.color : c.color);
+        EXPECT_EQ(before->at(1, 2), static_cast<uint32_t>(kGrey)); // a snapshot stays as it was
+    }
+}
+
+// A box's pixels count against the memory limit once, made or still to be made, however
+// often it is cleared, resized or given a picture: a box of more than half the limit
+// stays usable.
+TEST(PictureBox, PixelsCountOnceWhetherMadeOrNot) {
+    Box b(7200, 7200); // 207 MB, over half the limit
+    const std::size_t counted = vb::liveBytes();
+    const std::function<void()> steps[] = {
+        [&] { b.box.Cls(); },
+        [&] { b.box.Point(1, 1); },
+        [&] { b.box.Picture = numbered(10, 10); },
+        [&] { b.box.Picture = platform::PictureHandle{}; },
+        [&] { b.box.PSet(1, 1, kRed); },
+        [&] { b.box.BackColor = kGreen; },
+    };
+    for (int round = 0; round < 2; ++round)
+        for (const auto& step : steps) {
+            ASSERT_NO_THROW(step());
+            EXPECT_LE(vb::liveBytes(), counted + 10 * 10 * 4); // and the picture it holds
+            EXPECT_GE(vb::liveBytes(), counted);
+        }
+}
+
 TEST(PictureBox, AHugeSizeIsRefusedWithoutAllocating) {
     Box b(4, 4);
     b.box.Width = 20000 * 15;
@@ -217,7 +321,7 @@ TEST(PictureBox, AViewThatRepaintsOnlyTheDamageAlwaysShowsWhatTheBoxShows) {
         };
         const platform::PixelRect all{0, 0, g.w, g.h};
         std::vector<uint32_t> shown(static_cast<std::size_t>(g.w * g.h)), whole(shown.size());
-        std::vector<std::pair<platform::PictureHandle, std::vector<uint32_t>>> held;
+        std::vector<std::pair<platform::PictureHandle, decltype(platform::Raster::px)>> held;
         std::mt19937 rng(5);
         auto any = [&rng](int n) { return static_cast<int>(rng() % static_cast<unsigned>(n)); };
         for (int step = 0; step < 600; ++step) {
