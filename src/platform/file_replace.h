@@ -17,10 +17,10 @@ namespace vb {
 void checkReplaceable(const std::string& path);
 
 // Checks as above, then writes bytes to a new file in the target's folder (with the
-// target's permissions and owner when there was one), removes the target and gives the
-// new file its name. On a failure before that the new file is removed, the target is
-// left as it was, and PathFileAccess is raised with the system's reason ("No space left
-// on device").
+// target's permissions and owner when there was one) and gives it the target's name,
+// the old file stepping aside until then. On any failure the new file is removed, the
+// target is left as it was, and PathFileAccess is raised with the system's reason ("No
+// space left on device").
 void replaceFile(const std::string& path, std::span<const uint8_t> bytes);
 
 } // namespace vb
