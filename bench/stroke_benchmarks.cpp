@@ -20,8 +20,8 @@ struct View {
     std::vector<uint32_t> buffer = std::vector<uint32_t>(1920 * 1080);
 
     void show() {
-        PixelRect d = box.takeDamage().intersect(PixelRect{0, 0, 1920, 1080});
-        box.render(d, buffer.data(), d.x1 - d.x0, platform::PixelOrder::Xrgb);
+        for (const PixelRect& d : box.takeDamage().intersect(PixelRect{0, 0, 1920, 1080}))
+            box.render(d, buffer.data(), d.x1 - d.x0, platform::PixelOrder::Xrgb);
         benchmark::DoNotOptimize(buffer.data());
     }
 };
