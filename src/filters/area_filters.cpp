@@ -3,8 +3,8 @@
 // arithmetic of the passes is in work_buf_kernels; here stand the order of the passes,
 // the palette match and the writing of each pixel to the picture and then the grid.
 #include "editor/frm_main.h"
+#include "filters/pass_matcher.h"
 #include "filters/work_buf_kernels.h"
-#include "palette/color_match.h"
 #include "platform/vb_numeric.h"
 #include "tools/shape_geometry.h"
 
@@ -49,26 +49,18 @@ void visitPass(const PassArea& area, const PixelRect& live, Span&& span, RowDone
     if (bottom < area.y1) settle(std::max(bottom + 1, area.y0), area.x0, area.x1);
 }
 
-// What Temp_Color_Check reads and leaves, held in locals for the length of a pass and
-// written back to the fields at its end.
-struct MatchFields {
-    int32_t check;
-    double index; // Color_Index: NaN while it holds no number
-    int32_t nearColor;
-    int16_t nearDistance;
-};
-
 } // namespace
 
 void FrmMain::workBufPasses(const PassArea& first, const PassArea& second, Kernel kernel,
                             bool match, bool refreshRows) {
     const filters::WorkPlanes work{Work_Buf.data()};
     const filters::GridCells grid = gridCells();
-    const filters::PaletteRecords palette{Pal_Table.data(), static_cast<int64_t>(Pal_Table.size())};
+    const filters::PaletteColours palette =
+        filters::paletteColours(Pal_Table.data(), static_cast<int64_t>(Pal_Table.size()));
     PixelRect live = paintableArea();
     live = live.unite(PixelRect{0, 0, filters::kWorkSide, filters::kWorkSide});
 
-    MatchFields f{Check_Color, std::nan(""), Near_Color, Near_Distance};
+    filters::MatchFields f{Check_Color, std::nan(""), Near_Color, Near_Distance};
     vb::resume([&] { f.index = Color_Index.num(); });
     Channels values{}; // handed from the first pass to the second, as the filter's own locals
 
@@ -91,38 +83,17 @@ void FrmMain::workBufPasses(const PassArea& first, const PassArea& second, Kerne
                 share.valid[c] = true;
             });
     }
-    if (match && !matchCache_) matchCache_ = std::make_shared<MatchCache>();
-    // The last match's question and answer: a run of one colour asks the cache once.
-    bool remembered = false;
-    int32_t askedColor = 0, askedNear = 0;
-    MatchResult answer;
-    const auto matchPixel = [&] {
-        if (!remembered || askedColor != f.check || askedNear != f.nearColor) {
-            remembered = false;
-            askedColor = f.check;
-            askedNear = f.nearColor;
-            try {
-                answer = matchCache_->match(Pal_Table, f.check, f.nearColor);
-            } catch (const vb::Error&) {
-                return; // the match failed: the fields stay as they were
-            }
-            remembered = true;
-        }
-        f.check = answer.checkColor;
-        if (answer.indexSet) f.index = answer.index;
-        if (answer.nearSet) f.nearColor = answer.nearColor;
-        f.nearDistance = answer.nearDistance;
-    };
+    if (!matchCache_) matchCache_ = std::make_shared<MatchCache>();
+    filters::PassMatcher matcher(*matchCache_, Pal_Table, f);
 
-    std::vector<int32_t> packed, colors;
-    std::vector<double> indices;
+    std::vector<int32_t> packed, colors, values16;
     visitPass(
         second, live,
         [&](int64_t y, int64_t x0, int64_t x1) {
             const auto n = static_cast<std::size_t>(x1 - x0 + 1);
             packed.resize(n);
             colors.resize(n);
-            indices.resize(n);
+            values16.resize(n);
             switch (kernel) {
             case Kernel::Sharpen:
                 filters::sharpenRow(work, y, x0, x1, values, packed.data());
@@ -140,24 +111,27 @@ void FrmMain::workBufPasses(const PassArea& first, const PassArea& second, Kerne
                 filters::tintRow(work, share, y, x0, x1, values, packed.data());
                 break;
             }
-            for (std::size_t i = 0; i < n; ++i) {
-                if (packed[i] >= 0) f.check = packed[i];
-                if (match) matchPixel();
-                colors[i] = f.check;
-                indices[i] = f.index;
-            }
+            matcher.run(packed.data(), n, match, colors.data(), values16.data());
             setPictureRow(x0, y, colors.data(), static_cast<int64_t>(n));
-            for (std::size_t i = 0; i < n; ++i) {
-                const int64_t c = grid.cell(x0 + static_cast<int64_t>(i), y);
-                const double index = vb::roundHalfEven(indices[i]);
-                if (c >= 0 && index >= -32768 && index <= 32767)
-                    grid.cells[c] = static_cast<int16_t>(index);
+            int64_t base = 0, from = 0, to = -1;
+            if (!grid.row(y, base, from, to)) { // a width with a fraction: cell by cell
+                for (std::size_t i = 0; i < n; ++i) {
+                    const int64_t c = grid.cell(x0 + static_cast<int64_t>(i), y);
+                    if (c >= 0 && values16[i] != filters::kNoCell)
+                        grid.cells[c] = static_cast<int16_t>(values16[i]);
+                }
+                return;
             }
+            for (int64_t x = std::max(from, x0); x <= std::min(to, x1); ++x)
+                if (const int32_t v = values16[static_cast<std::size_t>(x - x0)];
+                    v != filters::kNoCell)
+                    grid.cells[base + x] = static_cast<int16_t>(v);
         },
         [&] {
             if (refreshRows) picture1.Refresh();
         });
 
+    f = matcher.fields();
     Check_Color = f.check;
     // What changed it was a cell or a record's index, 16-bit numbers both.
     if (!std::isnan(f.index) && f.index != indexBefore) Color_Index = static_cast<int16_t>(f.index);

@@ -9,6 +9,7 @@
 
 #include <array>
 #include <cstdint>
+#include <vector>
 
 namespace tavrin::filters {
 
@@ -48,18 +49,24 @@ struct GridCells {
     double width = 0, height = 0; // Skin_Width, Skin_Height
     // The element of pixel (x, y), from 0, or -1 when there is none.
     int64_t cell(int64_t x, int64_t y) const;
+    // For a whole width: the pixels of row y that have cells, `from` to `to` (none when
+    // to < from), pixel x's element being base + x. False when the width has a fraction.
+    bool row(int64_t y, int64_t& base, int64_t& from, int64_t& to) const;
 };
 
-// Pal_Table's records 0 to count - 1.
-struct PaletteRecords {
+// Pal_Table's records 0 to count - 1, and their channels as Work_Buf stores them when
+// every one is a 16-bit number (else `stored` is empty).
+struct PaletteColours {
     const PalRecord* records;
     int64_t count;
+    std::vector<std::array<int16_t, 3>> stored;
 };
+PaletteColours paletteColours(const PalRecord* records, int64_t count);
 
 // The first pass over pixels x0..x1 of row y: Color_Index takes each pixel's cell (and
 // keeps its value outside the skin), values the colour of that record (kept when there
 // is no such record), and Work_Buf the values.
-void copyRow(const GridCells& grid, const PaletteRecords& palette, const WorkPlanes& work,
+void copyRow(const GridCells& grid, const PaletteColours& palette, const WorkPlanes& work,
              int64_t y, int64_t x0, int64_t x1, double& colorIndex, Channels& values);
 
 // The second passes over pixels x0..x1 of row y. Each writes pixel x0 + i's colour,

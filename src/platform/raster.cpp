@@ -189,6 +189,7 @@ bool LineSegment::contains(int64_t x, int64_t y) const {
 }
 
 int64_t stretchSource(int64_t d, int64_t destExtent, int64_t srcStart, int64_t srcExtent) {
+    if (destExtent == srcExtent && srcExtent > 0) return srcStart + d; // not stretched
     int64_t n = destExtent < 0 ? -destExtent : destExtent;
     if (n == 0) return srcStart;
     if (destExtent < 0) d = n - 1 - d;

@@ -112,7 +112,13 @@ PixelRect stretchedArea(const PixelRect& srcRect, int64_t srcW, int64_t srcH, in
 __extension__ typedef __int128 Wide; // products of two 32-bit coordinates and more
 
 inline int64_t LineSegment::minorAt(int64_t start, int64_t delta, int64_t i, int64_t n) {
-    if (n == 0) return start;
+    if (n == 0 || delta == 0) return start;
+    // In 64 bits where the products fit: a long band asks this for every pixel.
+    constexpr int64_t kSmall = int64_t{1} << 30;
+    if (i >= 0 && i < kSmall && n < kSmall && delta > -kSmall && delta < kSmall) {
+        const int64_t num = 2 * i * delta + n, den = 2 * n;
+        return start + (num >= 0 ? num / den : -((-num + den - 1) / den));
+    }
     // Round i * delta / n to nearest, halves upward; 128-bit since both factors may be
     // 32-bit coordinates.
     Wide num = static_cast<Wide>(2) * i * delta + n;

@@ -138,26 +138,31 @@ TEST(WorkBufKernels, PackingRoundsHalfToEvenAndRefusesWhatIsNoColour) {
 
 // The first pass over a 4 x 3 skin, row 1 from column -2 to 1501: the cells' records go
 // into Work_Buf; left of the skin the colour of Color_Index as it stood, right of it the
-// last cell's, and nothing at all past the buffer.
+// last cell's, and nothing at all past the buffer. A cell with no record (99) repeats the
+// colour before it. Alike whether the records' channels fit Work_Buf or one doesn't.
 TEST(WorkBufKernels, TheFirstPassCopiesTheCellsColoursAndRepeatsTheLastOutsideTheSkin) {
-    std::vector<PalRecord> palette(901);
-    for (int i = 0; i < 901; ++i)
-        palette[static_cast<std::size_t>(i)] = PalRecord{i % 256, 2 * i % 256, 3 * i % 256};
-    std::vector<int16_t> cells{0, 1, 2, 3, 10, 11, 12, 13, 20, 21, 22, 23, 99};
-    const GridCells grid{cells.data(), 0, 12, 4, 3};
-    Planes p;
-    double index = 5;
-    Channels values{};
-    copyRow(grid, PaletteRecords{palette.data(), 901}, p.work, 1, -2, 1501, index, values);
-    EXPECT_EQ(index, 13);
-    EXPECT_EQ(values, (Channels{13, 26, 39}));
-    for (const auto& [x, record] : {std::pair{0, 10}, {1, 11}, {3, 13}, {4, 13}, {1500, 13}}) {
-        EXPECT_EQ(p.work.at(0, x, 1), record) << x;
-        EXPECT_EQ(p.work.at(2, x, 1), 3 * record) << x;
+    for (const int32_t last : {0, 40000}) {
+        std::vector<PalRecord> palette(31);
+        for (int i = 0; i < 31; ++i)
+            palette[static_cast<std::size_t>(i)] = PalRecord{i, 2 * i, 3 * i};
+        palette[30].Red = last;
+        std::vector<int16_t> cells{0, 1, 2, 3, 10, 99, 12, 13, 20, 21, 22, 23, 9};
+        const GridCells grid{cells.data(), 0, 12, 4, 3};
+        Planes p;
+        double index = 5;
+        Channels values{};
+        copyRow(grid, paletteColours(palette.data(), 31), p.work, 1, -2, 1501, index, values);
+        EXPECT_EQ(index, 13);
+        EXPECT_EQ(values, (Channels{13, 26, 39}));
+        for (const auto& [x, record] :
+             {std::pair{0, 10}, {1, 10}, {2, 12}, {3, 13}, {4, 13}, {1500, 13}}) {
+            EXPECT_EQ(p.work.at(0, x, 1), record) << x;
+            EXPECT_EQ(p.work.at(2, x, 1), 3 * record) << x;
+        }
+        EXPECT_EQ(grid.cell(4, 1), -1); // position 8 lies in the array, but in the next row
+        EXPECT_EQ(grid.cell(3, 2), 11);
+        EXPECT_EQ(grid.cell(0, 3), -1);
     }
-    EXPECT_EQ(grid.cell(4, 1), -1); // position 8 lies in the array, but in the next row
-    EXPECT_EQ(grid.cell(3, 2), 11);
-    EXPECT_EQ(grid.cell(0, 3), -1);
 }
 
 } // namespace

@@ -199,14 +199,15 @@ TEST(PictureBox, ACanvasWithoutAutoRedrawAnswersPointFromWhatWasPainted) {
 
 // A view keeps what it showed and repaints only what the box says changed. Strokes,
 // snapshots held and dropped (as undo does) and repaints of the canvas from the skin's
-// Image, at a whole and at an uneven factor, mirrored too: the view must always equal a
-// whole render, that render what Point gives, and a snapshot keep what it was taken with.
+// Image, at a whole and at an uneven factor, mirrored too, and unstretched: the view must always
+// equal a whole render, that render what Point gives, and a snapshot keep what it was taken with.
 TEST(PictureBox, AViewThatRepaintsOnlyTheDamageAlwaysShowsWhatTheBoxShows) {
     struct Geometry {
         int w, h;
         bool mirrored;
     };
-    for (const Geometry g : {Geometry{48, 30, false}, Geometry{37, 29, true}}) {
+    for (const Geometry g :
+         {Geometry{48, 30, false}, Geometry{37, 29, true}, Geometry{16, 12, false}}) {
         Box skin(16, 12), canvas(g.w, g.h, false);
         PictureBox& c = canvas.box;
         auto repaint = [&] {
@@ -322,9 +323,13 @@ TEST(PictureBox, ARubberBandDamagesItsOutlineNotItsBox) {
 // that line up are joined, so an outline stays four sides.
 TEST(PixelRegion, HoldsEveryRectangleAddedInFewRectangles) {
     platform::PixelRegion outline;
-    for (const platform::PixelRect r :
-         {platform::PixelRect{0, 0, 50, 1}, {0, 40, 50, 41}, {0, 0, 1, 41}, {49, 0, 50, 41},
-          {20, 0, 60, 1}, {0, 0, 50, 1}, {3, 3, 3, 9}})
+    for (const platform::PixelRect r : {platform::PixelRect{0, 0, 50, 1},
+                                        {0, 40, 50, 41},
+                                        {0, 0, 1, 41},
+                                        {49, 0, 50, 41},
+                                        {20, 0, 60, 1},
+                                        {0, 0, 50, 1},
+                                        {3, 3, 3, 9}})
         outline.add(r);
     EXPECT_EQ(outline.size(), 4u); // the second top row joins the first; the rest add nothing
     EXPECT_EQ(outline.area(), 60 + 50 + 41 + 41);
