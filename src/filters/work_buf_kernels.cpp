@@ -282,12 +282,16 @@ void blurRow(const WorkPlanes& work, int64_t y, int64_t x0, int64_t x1, Channels
     const auto checked = [&](int64_t x) {
         if (WorkPlanes::holds(x - 1, y - 1) && WorkPlanes::holds(x + 1, y + 1)) {
             for (int ch = 0; ch < 3; ++ch) {
+                // Summed in 16 bits from the top left: a sum that leaves them on the way
+                // isn't made.
                 int32_t sum = 0;
+                bool made = true;
                 for (int64_t dy = -1; dy <= 1; ++dy)
-                    for (int64_t dx = -1; dx <= 1; ++dx)
+                    for (int64_t dx = -1; dx <= 1; ++dx) {
                         sum += work.at(ch, x + dx, y + dy);
-                // The sum is a 16-bit number: one that leaves it isn't made.
-                if (fits16(sum)) sums[static_cast<std::size_t>(ch)] = sum;
+                        made = made && fits16(sum);
+                    }
+                if (made) sums[static_cast<std::size_t>(ch)] = sum;
             }
         }
         return packSums(sums);
@@ -298,12 +302,15 @@ void blurRow(const WorkPlanes& work, int64_t y, int64_t x0, int64_t x1, Channels
                   for (int64_t x = from; x <= to; ++x) {
                       int32_t p = 0;
                       for (int c = 0; c < 3; ++c) {
-                          int32_t sum = 0;
+                          // No value below 0 and a sum within 16 bits: no sum on the way
+                          // left them either.
+                          int32_t sum = 0, signs = 0;
                           for (int64_t dy = -1; dy <= 1; ++dy) {
                               const int16_t* r = planeRow(work, c, y + dy) + x;
                               sum += r[-1] + r[0] + r[1];
+                              signs |= r[-1] | r[0] | r[1];
                           }
-                          if (sum < 0 || sum > 32767) return x;
+                          if (signs < 0 || sum > 32767) return x;
                           p |= std::min((2 * sum + 9) / 18, 255) << (8 * c);
                       }
                       *o++ = p;
