@@ -129,6 +129,11 @@ private:
     // Pixels x to x + count - 1 of row y on picture1, as PSet sets them one at a time.
     void setPictureRow(int64_t x, int64_t y, const int32_t* colors, int64_t count);
 
+    // ---------------- shell/shape_select.cpp ----------------
+    // "Box" with the filter word: the next box dragged runs that filter.
+    void chooseFilter(const char* word);
+    void chooseRectangle(bool filled);
+
     // ---------------- filters/area_filters.cpp ----------------
     // The release of a box drag with a filter word: the band taken away, the corners
     // sorted, the filter run.

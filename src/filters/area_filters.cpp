@@ -94,23 +94,7 @@ void FrmMain::workBufPasses(const PassArea& first, const PassArea& second, Kerne
             packed.resize(n);
             colors.resize(n);
             values16.resize(n);
-            switch (kernel) {
-            case Kernel::Sharpen:
-                filters::sharpenRow(work, y, x0, x1, values, packed.data());
-                break;
-            case Kernel::Lighten:
-                filters::lightenRow(work, y, x0, x1, values, packed.data());
-                break;
-            case Kernel::Blur:
-                filters::blurRow(work, y, x0, x1, values, packed.data());
-                break;
-            case Kernel::Emboss:
-                filters::embossRow(work, y, x0, x1, values, packed.data());
-                break;
-            case Kernel::Tint:
-                filters::tintRow(work, share, y, x0, x1, values, packed.data());
-                break;
-            }
+            filters::kernelRow(kernel, work, share, y, x0, x1, values, packed.data());
             matcher.run(packed.data(), n, match, colors.data(), values16.data());
             setPictureRow(x0, y, colors.data(), static_cast<int64_t>(n));
             int64_t base = 0, from = 0, to = -1;

@@ -378,4 +378,25 @@ void tintRow(const WorkPlanes& work, const TintShare& share, int64_t y, int64_t 
               });
 }
 
+void kernelRow(Kernel kernel, const WorkPlanes& work, const TintShare& share, int64_t y, int64_t x0,
+               int64_t x1, Channels& values, int32_t* out) {
+    switch (kernel) {
+    case Kernel::Sharpen:
+        sharpenRow(work, y, x0, x1, values, out);
+        break;
+    case Kernel::Lighten:
+        lightenRow(work, y, x0, x1, values, out);
+        break;
+    case Kernel::Blur:
+        blurRow(work, y, x0, x1, values, out);
+        break;
+    case Kernel::Emboss:
+        embossRow(work, y, x0, x1, values, out);
+        break;
+    case Kernel::Tint:
+        tintRow(work, share, y, x0, x1, values, out);
+        break;
+    }
+}
+
 } // namespace tavrin::filters

@@ -98,6 +98,10 @@ struct TintShare {
 void tintRow(const WorkPlanes& work, const TintShare& share, int64_t y, int64_t x0, int64_t x1,
              Channels& values, int32_t* out);
 
+// The second pass of `kernel` over pixels x0..x1 of row y (share: Tint's only).
+void kernelRow(Kernel kernel, const WorkPlanes& work, const TintShare& share, int64_t y, int64_t x0,
+               int64_t x1, Channels& values, int32_t* out);
+
 // The values rounded to 16-bit whole numbers (half to even) and packed, a channel above
 // 255 as 255; -1 where a value doesn't fit in 16 bits or is negative.
 int32_t packChannels(const Channels& values);

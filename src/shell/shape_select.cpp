@@ -10,26 +10,24 @@ namespace {
 constexpr int16_t kTrue = -1;
 } // namespace
 
-void FrmMain::mRect_Click() {
+// The rectangles close the paint brush's kinds and clear the filter word.
+void FrmMain::chooseRectangle(bool filled) {
     SSPanel2.Visible = false;
     Tool_Mode = "Box";
     Filter_Mode = "";
-    Fill_Rect = false;
+    Fill_Rect = filled;
 }
 
+void FrmMain::mRect_Click() { chooseRectangle(false); }
+
 void FrmMain::SSCommand28_Click() {
-    mRect_Click();
+    chooseRectangle(false);
     SSPanel3.Caption = "Rectangle";
 }
 
 // Leaves the gradient as it was: after "&Gradient Rectangle Fill" this item fills in
 // stripes too. Meant; the tool button switches it off.
-void FrmMain::mFrect_Click() {
-    SSPanel2.Visible = false;
-    Tool_Mode = "Box";
-    Filter_Mode = "";
-    Fill_Rect = true;
-}
+void FrmMain::mFrect_Click() { chooseRectangle(true); }
 
 void FrmMain::SSCommand29_Click() {
     mFrect_Click();
@@ -72,47 +70,20 @@ void FrmMain::gd_Click() {
 void FrmMain::gl_Click() { gd_Click(); }
 
 // The filters set the two words and nothing else; the status text stays.
-void FrmMain::Sharpen_Click() {
+void FrmMain::chooseFilter(const char* word) {
     Tool_Mode = "Box";
-    Filter_Mode = "Sharp";
+    Filter_Mode = word;
 }
 
+void FrmMain::Sharpen_Click() { chooseFilter("Sharp"); }
 void FrmMain::SSCommand40_Click() { Sharpen_Click(); }
-
 // Lighten over a box has only its button: the menu's "&Lighten Image" lightens it all.
-void FrmMain::SSCommand37_Click() {
-    Tool_Mode = "Box";
-    Filter_Mode = "Light";
-}
-
-void FrmMain::Blur_Click() {
-    Tool_Mode = "Box";
-    Filter_Mode = "BlurA";
-}
-
-void FrmMain::SSCommand41_Click() {
-    Tool_Mode = "Box";
-    Filter_Mode = "BlurA";
-}
-
-void FrmMain::Emboss_Click() {
-    Tool_Mode = "Box";
-    Filter_Mode = "Emboss";
-}
-
-void FrmMain::SSCommand38_Click() {
-    Tool_Mode = "Box";
-    Filter_Mode = "Emboss";
-}
-
-void FrmMain::Tint_Click() {
-    Tool_Mode = "Box";
-    Filter_Mode = "Tint";
-}
-
-void FrmMain::SSCommand36_Click() {
-    Tool_Mode = "Box";
-    Filter_Mode = "Tint";
-}
+void FrmMain::SSCommand37_Click() { chooseFilter("Light"); }
+void FrmMain::Blur_Click() { chooseFilter("BlurA"); }
+void FrmMain::SSCommand41_Click() { chooseFilter("BlurA"); }
+void FrmMain::Emboss_Click() { chooseFilter("Emboss"); }
+void FrmMain::SSCommand38_Click() { chooseFilter("Emboss"); }
+void FrmMain::Tint_Click() { chooseFilter("Tint"); }
+void FrmMain::SSCommand36_Click() { chooseFilter("Tint"); }
 
 } // namespace tavrin

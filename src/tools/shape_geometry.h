@@ -37,15 +37,17 @@ void walkLine(double x1, double y1, double x2, double y2, const platform::PixelR
     const double hi = static_cast<double>(across ? clip.x1 : clip.y1) - 1;
     const double first = std::max(fromA, lo), last = std::min(toA, hi);
     if (first > last) return;
-    const double skipped = first - fromA;
-    constexpr double kAddedOneByOne = 65536;
+    const auto skipped = static_cast<int64_t>(std::ceil(first - fromA));
+    constexpr int64_t kAddedOneByOne = 65536;
     if (skipped <= kAddedOneByOne) {
-        for (double i = 0; i < skipped; ++i)
+        for (int64_t i = 0; i < skipped; ++i)
             b += step;
     } else {
-        b += step * skipped;
+        b += step * static_cast<double>(skipped);
     }
-    for (double a = first; a <= last; ++a) {
+    const auto count = static_cast<int64_t>(last - first);
+    for (int64_t k = 0; k <= count; ++k) {
+        const double a = first + static_cast<double>(k);
         b += step;
         if (across)
             plot(a, b);

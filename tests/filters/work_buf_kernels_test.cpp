@@ -55,23 +55,7 @@ TEST(WorkBufKernels, WorkedNumbers) {
         Channels values{1, 2, 3};
         int32_t out = -2;
         const TintShare share{{c.share, c.share, c.share}, {true, true, true}};
-        switch (c.kernel) {
-        case Kernel::Sharpen:
-            sharpenRow(p.work, 10, 10, 10, values, &out);
-            break;
-        case Kernel::Lighten:
-            lightenRow(p.work, 10, 10, 10, values, &out);
-            break;
-        case Kernel::Blur:
-            blurRow(p.work, 10, 10, 10, values, &out);
-            break;
-        case Kernel::Emboss:
-            embossRow(p.work, 10, 10, 10, values, &out);
-            break;
-        case Kernel::Tint:
-            tintRow(p.work, share, 10, 10, 10, values, &out);
-            break;
-        }
+        kernelRow(c.kernel, p.work, share, 10, 10, 10, values, &out);
         EXPECT_EQ(out, c.expected * 0x010101) << c.name;
     }
 }
@@ -101,23 +85,7 @@ TEST(WorkBufKernels, APixelWhoseReadsFailRepeatsThePixelBefore) {
         Channels values{30, 60, 90};
         int32_t out = -2;
         const TintShare share{{50, 50, 50}, {true, true, true}};
-        switch (c.kernel) {
-        case Kernel::Sharpen:
-            sharpenRow(p.work, c.y, c.x, c.x, values, &out);
-            break;
-        case Kernel::Lighten:
-            lightenRow(p.work, c.y, c.x, c.x, values, &out);
-            break;
-        case Kernel::Blur:
-            blurRow(p.work, c.y, c.x, c.x, values, &out);
-            break;
-        case Kernel::Emboss:
-            embossRow(p.work, c.y, c.x, c.x, values, &out);
-            break;
-        case Kernel::Tint:
-            tintRow(p.work, share, c.y, c.x, c.x, values, &out);
-            break;
-        }
+        kernelRow(c.kernel, p.work, share, c.y, c.x, c.x, values, &out);
         EXPECT_EQ(out, c.expected) << c.name;
         EXPECT_EQ(values, (Channels{30, 60, 90})) << c.name;
     }
