@@ -10,6 +10,21 @@ SCRIPT="$2"
 WORK="$(mktemp -d)"
 trap 'finish; rm -rf "$WORK"' EXIT
 cp "$3" "$WORK/skin.pcx"
+# The file dialogs of lib.sh's open and save, patient on a busy machine: the dialog has
+# the keyboard before the name goes in, and the name goes in again while it stays open.
+type_in_dialog() {
+    dialog=$(wait_window "$1")
+    for _ in 1 2 3; do
+        sleep 0.5
+        xdotool windowfocus --sync "$dialog" 2>/dev/null || true
+        xdotool key ctrl+a
+        xdotool type --delay 20 "$2"
+        xdotool key Return
+        sleep 1
+        xdotool search --onlyvisible --name "^$1\$" >/dev/null 2>&1 || return 0
+    done
+}
+
 start_x
 
 start_tavrin "$TAVRIN"
