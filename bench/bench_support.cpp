@@ -1,5 +1,7 @@
 #include "bench_support.h"
 
+#include <benchmark/benchmark.h>
+
 #include <cstdio>
 #include <filesystem>
 #include <fstream>
@@ -113,6 +115,13 @@ void Editor::zoomIn(int presses) {
 }
 
 void Editor::choosePencil() { frm.pEdit_Click(); }
+
+void View::show() {
+    for (const platform::PixelRect& d :
+         box.takeDamage().intersect(platform::PixelRect{0, 0, 1920, 1080}))
+        box.render(d, buffer.data(), d.x1 - d.x0, platform::PixelOrder::Xrgb);
+    benchmark::DoNotOptimize(buffer.data());
+}
 
 namespace {
 

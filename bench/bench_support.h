@@ -24,6 +24,14 @@ struct Editor {
     void choosePencil();
 };
 
+// What a view of a box does after an event: paints what changed since it last looked,
+// from the box's description, into a buffer as large as the canvas's visible part.
+struct View {
+    platform::PictureBox& box;
+    std::vector<uint32_t> buffer = std::vector<uint32_t>(1920 * 1080);
+    void show();
+};
+
 // A 1024 x 1024 PCX with the runs of a painted skin: a real skin repeated when the real
 // files are there, else patches of one colour broken by noise. Written once per run,
 // beside the program. Wider than the reader takes whole: its open ends in the failure

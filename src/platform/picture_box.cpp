@@ -13,8 +13,6 @@ namespace {
 
 uint32_t rgb24(int32_t color) { return static_cast<uint32_t>(color) & 0xFFFFFFu; }
 
-int64_t area(const PixelRect& r) { return r.empty() ? 0 : (r.x1 - r.x0) * (r.y1 - r.y0); }
-
 int64_t toDevice(double v) {
     if (!std::isfinite(v)) vb::raise(vb::Overflow);
     double r = vb::roundHalfEven(v);
@@ -174,22 +172,23 @@ void PictureBox::makeImage() const {
 // a copy. A view's picture holds the raster drawn before, so each event of a stroke would
 // copy the whole picture: instead the box keeps the rasters it let go and, once nobody
 // else holds one, takes it back, copying in only the pixels written since it was let go.
-Raster& PictureBox::writable(const PixelRect& touched) {
+Raster& PictureBox::writable(const PixelRegion& touched) {
     raster();
     if (image_.use_count() > 1) {
         Spare* back = nullptr;
         for (Spare& s : spares_)
             if (s.raster && s.raster.use_count() == 1 && s.raster->width == image_->width &&
-                s.raster->height == image_->height && (!back || area(s.stale) < area(back->stale)))
+                s.raster->height == image_->height &&
+                (!back || s.stale.area() < back->stale.area()))
                 back = &s;
         std::shared_ptr<Raster> next;
         if (back) {
-            const PixelRect st =
-                back->stale.intersect(PixelRect{0, 0, image_->width, image_->height});
-            for (int64_t y = st.y0; y < st.y1; ++y) {
-                const auto at = static_cast<std::size_t>(y * image_->width + st.x0);
-                std::copy_n(&image_->px[at], st.x1 - st.x0, &back->raster->px[at]);
-            }
+            for (const PixelRect& st :
+                 back->stale.intersect(PixelRect{0, 0, image_->width, image_->height}))
+                for (int64_t y = st.y0; y < st.y1; ++y) {
+                    const auto at = static_cast<std::size_t>(y * image_->width + st.x0);
+                    std::copy_n(&image_->px[at], st.x1 - st.x0, &back->raster->px[at]);
+                }
             back->raster->lineage = image_->lineage; // now a copy with nothing written yet
             next = std::move(back->raster);
         } else {
@@ -197,16 +196,16 @@ Raster& PictureBox::writable(const PixelRect& touched) {
             // An empty slot, else that of the spare that differs the most.
             back = &spares_[0];
             for (Spare& s : spares_)
-                if (back->raster && (!s.raster || area(s.stale) > area(back->stale))) back = &s;
+                if (back->raster && (!s.raster || s.stale.area() > back->stale.area())) back = &s;
         }
-        *back = Spare{std::move(image_), PixelRect{}};
+        *back = Spare{std::move(image_), PixelRegion{}};
         image_ = std::move(next);
     }
     drawnOn_ = true;
-    const PixelRect t = touched.intersect(inner());
-    image_->lineage.written = image_->lineage.written.unite(t);
+    const PixelRegion t = touched.intersect(inner());
+    image_->lineage.written.add(t);
     for (Spare& s : spares_)
-        s.stale = s.stale.unite(t);
+        s.stale.add(t);
     changedPixels(t);
     return *image_;
 }
@@ -289,6 +288,30 @@ void PictureBox::PSet(double x, double y, int32_t color) {
     }
 }
 
+void PictureBox::PSetRow(int64_t x, int64_t y, const int32_t* colors, int64_t count) {
+    const PixelRect row = PixelRect{x, y, x + count, y + 1}.intersect(inner());
+    if (row.empty()) return;
+    const int32_t* from = colors + (row.x0 - x);
+    if (design_.autoRedraw) {
+        Raster& r = writable(row);
+        uint32_t* to = &r.at(static_cast<int>(row.x0), static_cast<int>(y));
+        const int64_t n = row.x1 - row.x0;
+        if (DrawMode.get() == kXorPen) {
+            for (int64_t i = 0; i < n; ++i)
+                to[i] ^= rgb24(from[i]);
+        } else {
+            for (int64_t i = 0; i < n; ++i)
+                to[i] = rgb24(from[i]);
+        }
+        return;
+    }
+    for (int64_t px = row.x0; px < row.x1; ++px) {
+        const auto at = static_cast<int32_t>(px), down = static_cast<int32_t>(y);
+        ops_.push_back(LineOp{LineSegment{at, down, at, down}, rgb24(*from++)});
+    }
+    changedPixels(row);
+}
+
 void PictureBox::Line(double x1, double y1, double x2, double y2, int32_t color, int kind) {
     int64_t ax = toPixelX(x1), ay = toPixelY(y1), bx = toPixelX(x2), by = toPixelY(y2);
     uint32_t c = rgb24(color);
@@ -316,9 +339,11 @@ void PictureBox::Line(double x1, double y1, double x2, double y2, int32_t color,
     } else {
         segments.push_back(seg(ax, ay, bx, by));
     }
-    PixelRect touched = fill ? filled : PixelRect{};
+    // An outline damages its sides and a slanting line a few boxes along it: a rubber
+    // band dragged over a large area repaints what it crosses, not the whole area.
+    PixelRegion touched = fill ? filled.intersect(inner()) : PixelRect{};
     for (const auto& s : segments)
-        touched = touched.unite(boundsOf(LineOp{s, c}));
+        touched.add(s.pieces(inner()));
     if (design_.autoRedraw) {
         Raster& r = writable(touched);
         for (const auto& s : segments)
@@ -361,7 +386,7 @@ void PictureBox::PaintPicture(const PictureHandle& picture, double x, double y, 
         }
     } else {
         PixelRect b = op.bounds();
-        PixelRect changed = b;
+        PixelRegion changed = b.intersect(inner());
         // Nothing under a picture that covers the whole box can show again.
         if (b.x0 <= 0 && b.y0 <= 0 && b.x1 >= innerW_ && b.y1 >= innerH_) {
             changed = repaintedArea(op);
@@ -375,21 +400,27 @@ void PictureBox::PaintPicture(const PictureHandle& picture, double x, double y, 
 // What a picture covering the whole box changes of what it shows. Repainting a later
 // copy of the picture underneath, over the same rectangle, changes only what was
 // written into the copy and what was drawn over the old one.
-PixelRect PictureBox::repaintedArea(const PaintOp& cover) const {
+PixelRegion PictureBox::repaintedArea(const PaintOp& cover) const {
     const auto* under = ops_.empty() ? nullptr : std::get_if<PaintOp>(&ops_.front());
     if (!under || under->x != cover.x || under->y != cover.y || under->w != cover.w ||
         under->h != cover.h || under->src->width != cover.src->width ||
         under->src->height != cover.src->height)
         return inner();
     const Lineage& now = cover.src->lineage;
-    PixelRect area;
+    PixelRegion area;
     if (under->src != cover.src) {
         if (now.parent != under->src->lineage.serial) return inner();
-        area = stretchedArea(now.written, cover.src->width, cover.src->height, cover.x, cover.y,
-                             cover.w, cover.h);
+        for (const PixelRect& r : now.written)
+            area.add(stretchedArea(r, cover.src->width, cover.src->height, cover.x, cover.y,
+                                   cover.w, cover.h)
+                         .intersect(inner()));
     }
-    for (std::size_t i = 1; i < ops_.size(); ++i)
-        area = area.unite(boundsOf(ops_[i]));
+    for (std::size_t i = 1; i < ops_.size(); ++i) {
+        if (const auto* line = std::get_if<LineOp>(&ops_[i]))
+            area.add(line->seg.pieces(inner()));
+        else
+            area.add(boundsOf(ops_[i]).intersect(inner()));
+    }
     return area;
 }
 

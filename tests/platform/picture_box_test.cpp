@@ -303,14 +303,15 @@ TEST(PictureBox, ACanvasWithoutAutoRedrawAnswersPointFromWhatWasPainted) {
 
 // A view keeps what it showed and repaints only what the box says changed. Strokes,
 // snapshots held and dropped (as undo does) and repaints of the canvas from the skin's
-// Image, at a whole and at an uneven factor, mirrored too: the view must always equal a
-// whole render, that render what Point gives, and a snapshot keep what it was taken with.
+// Image, at a whole and at an uneven factor, mirrored too, and unstretched: the view must always
+// equal a whole render, that render what Point gives, and a snapshot keep what it was taken with.
 TEST(PictureBox, AViewThatRepaintsOnlyTheDamageAlwaysShowsWhatTheBoxShows) {
     struct Geometry {
         int w, h;
         bool mirrored;
     };
-    for (const Geometry g : {Geometry{48, 30, false}, Geometry{37, 29, true}}) {
+    for (const Geometry g :
+         {Geometry{48, 30, false}, Geometry{37, 29, true}, Geometry{16, 12, false}}) {
         Box skin(16, 12), canvas(g.w, g.h, false);
         PictureBox& c = canvas.box;
         auto repaint = [&] {
@@ -324,8 +325,8 @@ TEST(PictureBox, AViewThatRepaintsOnlyTheDamageAlwaysShowsWhatTheBoxShows) {
         std::vector<std::pair<platform::PictureHandle, decltype(platform::Raster::px)>> held;
         std::mt19937 rng(5);
         auto any = [&rng](int n) { return static_cast<int>(rng() % static_cast<unsigned>(n)); };
-        for (int step = 0; step < 600; ++step) {
-            switch (any(7)) {
+        for (int step = 0; step < 800; ++step) {
+            switch (any(8)) {
             case 0:
                 held.emplace_back(skin.box.Image(), skin.box.Image()->px);
                 break;
@@ -339,6 +340,12 @@ TEST(PictureBox, AViewThatRepaintsOnlyTheDamageAlwaysShowsWhatTheBoxShows) {
             case 2:
                 skin.box.Line(any(16), any(12), any(16), any(12), any(1 << 24),
                               platform::kFilledBoxKind);
+                break;
+            case 7: // a rubber band: an outline or a slanting line in the XOR pen
+                skin.box.DrawMode = platform::kXorPen;
+                skin.box.Line(any(16), any(12), any(16), any(12), 0xFFFFFF,
+                              any(2) ? platform::kBoxKind : platform::kLineKind);
+                skin.box.DrawMode = platform::kCopyPen;
                 break;
             case 3:
                 c.Line(any(g.w), any(g.h), any(g.w), any(g.h), kGreen, platform::kLineKind);
@@ -354,9 +361,9 @@ TEST(PictureBox, AViewThatRepaintsOnlyTheDamageAlwaysShowsWhatTheBoxShows) {
             }
             for (int look = 0; look < 2; ++look) { // before and after the repaint
                 if (look == 1) repaint();
-                const platform::PixelRect d = c.takeDamage();
-                c.render(d, &shown[static_cast<std::size_t>(d.y0 * g.w + d.x0)], g.w,
-                         platform::PixelOrder::Xrgb);
+                for (const platform::PixelRect& d : c.takeDamage())
+                    c.render(d, &shown[static_cast<std::size_t>(d.y0 * g.w + d.x0)], g.w,
+                             platform::PixelOrder::Xrgb);
                 c.render(all, whole.data(), g.w, platform::PixelOrder::Xrgb);
                 ASSERT_EQ(shown, whole) << "step " << step;
             }
@@ -380,13 +387,71 @@ TEST(PictureBox, ARepaintAfterOnePixelDamagesExactlyItsStretchedBlock) {
     canvas.box.takeDamage();
     skin.box.PSet(3, 2, kRed);
     canvas.box.PaintPicture(skin.box.Image(), 0, 0, 40, 30);
-    const platform::PixelRect d = canvas.box.takeDamage();
+    const platform::PixelRegion d = canvas.box.takeDamage();
     for (int y = 0; y < 30; ++y)
         for (int x = 0; x < 40; ++x) {
             const bool shows = platform::stretchSource(x, 40, 0, 7) == 3 &&
                                platform::stretchSource(y, 30, 0, 5) == 2;
             ASSERT_EQ(d.contains(x, y), shows) << x << "," << y;
         }
+}
+
+// A band dragged over a large picture and shown on a zoomed canvas damages its sides and
+// what the pieces of a slanting line cross, in the picture and on the canvas: every pixel
+// it changed and only a small part of the box.
+TEST(PictureBox, ARubberBandDamagesItsOutlineNotItsBox) {
+    Box skin(200, 150), canvas(400, 300, false);
+    const auto repaint = [&] { canvas.box.PaintPicture(skin.box.Image(), 0, 0, 400, 300); };
+    repaint();
+    skin.box.DrawMode = platform::kXorPen;
+    for (const int kind : {platform::kBoxKind, platform::kLineKind}) {
+        skin.box.takeDamage();
+        canvas.box.takeDamage();
+        const platform::PictureHandle before = skin.box.Image();
+        skin.box.Line(10, 20, 190, 140, 0xFFFFFF, kind);
+        repaint();
+        const platform::PixelRegion d = skin.box.takeDamage(), shown = canvas.box.takeDamage();
+        const platform::PictureHandle after = skin.box.Image();
+        for (int y = 0; y < 150; ++y)
+            for (int x = 0; x < 200; ++x)
+                if (before->at(x, y) != after->at(x, y)) {
+                    ASSERT_TRUE(d.contains(x, y)) << kind << ": " << x << "," << y;
+                    ASSERT_TRUE(shown.contains(2 * x + 1, 2 * y + 1)) << kind;
+                }
+        EXPECT_LT(d.area(), 181 * 121 / 3) << kind;
+        EXPECT_LT(shown.area(), 4 * 181 * 121 / 3) << kind;
+    }
+}
+
+// Whatever is added, the region holds it, in at most kMostRects rectangles; rectangles
+// that line up are joined, so an outline stays four sides.
+TEST(PixelRegion, HoldsEveryRectangleAddedInFewRectangles) {
+    platform::PixelRegion outline;
+    for (const platform::PixelRect r : {platform::PixelRect{0, 0, 50, 1},
+                                        {0, 40, 50, 41},
+                                        {0, 0, 1, 41},
+                                        {49, 0, 50, 41},
+                                        {20, 0, 60, 1},
+                                        {0, 0, 50, 1},
+                                        {3, 3, 3, 9}})
+        outline.add(r);
+    EXPECT_EQ(outline.size(), 4u); // the second top row joins the first; the rest add nothing
+    EXPECT_EQ(outline.area(), 60 + 50 + 41 + 41);
+
+    std::mt19937 rng(11);
+    platform::PixelRegion scattered;
+    std::vector<platform::PixelRect> added;
+    for (int i = 0; i < 300; ++i) {
+        const auto any = [&rng](unsigned n) { return static_cast<int64_t>(rng() % n); };
+        const int64_t x = any(500), y = any(500);
+        added.push_back({x, y, x + 1 + any(4), y + 1 + any(4)});
+        scattered.add(added.back());
+        ASSERT_LE(scattered.size(), platform::PixelRegion::kMostRects);
+    }
+    for (const platform::PixelRect& r : added)
+        for (int64_t y = r.y0; y < r.y1; ++y)
+            for (int64_t x = r.x0; x < r.x1; ++x)
+                ASSERT_TRUE(scattered.contains(x, y)) << x << "," << y;
 }
 
 } // namespace
