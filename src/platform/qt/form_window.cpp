@@ -27,16 +27,21 @@ FormWindow::FormWindow(Form& form) : form_(form), surface_(new QWidget(this)) {
     registerWindow(this);
 }
 
-FormWindow::~FormWindow() {
-    unregisterWindow(this);
-    for (auto& [control, id] : observers_)
+Watchers::~Watchers() {
+    for (auto& [control, id] : ids_)
         control->unobserve(id);
 }
 
-void FormWindow::watch(Control& control, std::function<void()> update) {
+FormWindow::~FormWindow() { unregisterWindow(this); }
+
+void FormWindow::watch(Watchers& watchers, Control& control, std::function<void()> update) {
     update();
-    observers_.emplace_back(
-        &control, control.observe([update = std::move(update)](const PropBase*) { update(); }));
+    watchers.add(control,
+                 control.observe([update = std::move(update)](const PropBase*) { update(); }));
+}
+
+void FormWindow::watch(Control& control, std::function<void()> update) {
+    watch(observers_, control, std::move(update));
 }
 
 QWidget* FormWindow::widgetFor(const Control* control) const {
@@ -84,14 +89,14 @@ void FormWindow::buildControls() {
     }
 }
 
-void FormWindow::fillMenu(QMenu* menu, MenuItem* parent) {
+void FormWindow::fillMenu(QMenu* menu, MenuItem* parent, Watchers& watchers) {
     for (Control* c : form_.controls()) {
         if (c->kind() != ControlKind::MenuItem) continue;
         auto* item = static_cast<MenuItem*>(c);
         if (item->Parent != parent) continue;
         if (item->isSeparator()) {
             QAction* sep = menu->addSeparator();
-            watch(*item, [item, sep] { sep->setVisible(item->Visible); });
+            watch(watchers, *item, [item, sep] { sep->setVisible(item->Visible); });
             continue;
         }
         bool hasChildren = false;
@@ -101,7 +106,7 @@ void FormWindow::fillMenu(QMenu* menu, MenuItem* parent) {
         QAction* action = nullptr;
         if (hasChildren) {
             QMenu* sub = menu->addMenu(QString::fromStdString(item->Caption.get()));
-            fillMenu(sub, item);
+            fillMenu(sub, item, watchers);
             action = sub->menuAction();
         } else {
             action = menu->addAction(QString::fromStdString(item->Caption.get()));
@@ -114,7 +119,7 @@ void FormWindow::fillMenu(QMenu* menu, MenuItem* parent) {
                 action->setChecked(item->Checked);
             });
         }
-        watch(*item, [item, action] {
+        watch(watchers, *item, [item, action] {
             action->setText(QString::fromStdString(item->Caption.get()));
             action->setVisible(item->Visible);
             action->setEnabled(item->Enabled);
@@ -127,7 +132,8 @@ void FormWindow::fillMenu(QMenu* menu, MenuItem* parent) {
 QMenu* FormWindow::menuFor(MenuItem& item) {
     auto* menu = new QMenu(this);
     menu->setAttribute(Qt::WA_DeleteOnClose);
-    fillMenu(menu, &item);
+    // Made anew for each showing: its check marks stop following the items when it goes.
+    fillMenu(menu, &item, *new Watchers(menu));
     return menu;
 }
 
@@ -138,7 +144,7 @@ void FormWindow::buildMenus() {
         auto* item = static_cast<MenuItem*>(c);
         if (item->Parent != nullptr || !item->Visible) continue; // the popup stays off the bar
         QMenu* menu = menuBar()->addMenu(QString::fromStdString(item->Caption.get()));
-        fillMenu(menu, item);
+        fillMenu(menu, item, observers_);
         any = true;
     }
     menuBar()->setVisible(any);

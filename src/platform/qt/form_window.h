@@ -20,6 +20,20 @@ namespace platform::qt {
 
 class PictureWidget;
 
+// Observers of controls that end with the object holding them: the widgets they update
+// die with the same owner, so no observer outlives what it touches.
+class Watchers : public QObject {
+public:
+    explicit Watchers(QObject* owner) : QObject(owner) {}
+    Watchers(const Watchers&) = delete;
+    Watchers& operator=(const Watchers&) = delete;
+    ~Watchers() override;
+    void add(Control& control, int id) { ids_.emplace_back(&control, id); }
+
+private:
+    std::vector<std::pair<Control*, int>> ids_;
+};
+
 class FormWindow : public QMainWindow {
     Q_OBJECT
 public:
@@ -46,16 +60,17 @@ protected:
 private:
     void buildControls();
     void buildMenus();
-    void fillMenu(QMenu* menu, MenuItem* parent);
+    void fillMenu(QMenu* menu, MenuItem* parent, Watchers& watchers);
     void buildToolbar(class Toolbar& bar);
     void buildStatusBar(class StatusBar& bar);
     void watch(Control& control, std::function<void()> update);
+    static void watch(Watchers& watchers, Control& control, std::function<void()> update);
 
     Form& form_;
     QWidget* surface_;
     std::map<const Control*, QWidget*> widgets_;
     std::vector<PictureWidget*> pictures_;
-    std::vector<std::pair<Control*, int>> observers_;
+    Watchers observers_{nullptr}; // before the widgets go, as a member
 };
 
 } // namespace platform::qt
