@@ -10,6 +10,7 @@
 #include <QLabel>
 #include <QMenu>
 #include <QMenuBar>
+#include <QPointer>
 #include <QScreen>
 #include <QStatusBar>
 #include <QStyle>
@@ -113,7 +114,10 @@ void FormWindow::fillMenu(QMenu* menu, MenuItem* parent, Watchers& watchers) {
             if (!item->Shortcut.empty())
                 action->setShortcut(QKeySequence(QString::fromStdString(item->Shortcut)));
             QObject::connect(action, &QAction::triggered, this, [item, action] {
+                // A popup's item may go with its menu while the handler waits in a dialog.
+                const QPointer<QAction> still(action);
                 runEvent(item->Click);
+                if (!still) return;
                 // The handler owns the check mark; undo any toggle Qt made on its own.
                 action->setCheckable(item->Checked);
                 action->setChecked(item->Checked);
@@ -131,7 +135,6 @@ void FormWindow::fillMenu(QMenu* menu, MenuItem* parent, Watchers& watchers) {
 
 QMenu* FormWindow::menuFor(MenuItem& item) {
     auto* menu = new QMenu(this);
-    menu->setAttribute(Qt::WA_DeleteOnClose);
     // Made anew for each showing: its check marks stop following the items when it goes.
     fillMenu(menu, &item, *new Watchers(menu));
     return menu;

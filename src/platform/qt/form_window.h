@@ -44,7 +44,8 @@ public:
     void syncPictures();
     // The widget made for a control, or nullptr.
     QWidget* widgetFor(const Control* control) const;
-    // A menu made from the items under one item (for the popup menu).
+    // A menu made from the items under one item (for the popup menu), the caller's to
+    // delete.
     QMenu* menuFor(MenuItem& item);
     // Takes the window state of the form (2: maximised).
     void applyWindowState();
