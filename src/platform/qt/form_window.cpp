@@ -133,10 +133,20 @@ void FormWindow::fillMenu(QMenu* menu, MenuItem* parent, Watchers& watchers) {
     }
 }
 
+namespace {
+
+// Made anew for each showing: its check marks stop following the items when it goes.
+class PopupMenu : public QMenu {
+public:
+    using QMenu::QMenu;
+    Watchers watchers;
+};
+
+} // namespace
+
 QMenu* FormWindow::menuFor(MenuItem& item) {
-    auto* menu = new QMenu(this);
-    // Made anew for each showing: its check marks stop following the items when it goes.
-    fillMenu(menu, &item, *new Watchers(menu));
+    auto* menu = new PopupMenu(this);
+    fillMenu(menu, &item, menu->watchers);
     return menu;
 }
 

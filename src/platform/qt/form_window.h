@@ -20,14 +20,14 @@ namespace platform::qt {
 
 class PictureWidget;
 
-// Observers of controls that end with the object holding them: the widgets they update
-// die with the same owner, so no observer outlives what it touches.
-class Watchers : public QObject {
+// Observers of controls that end with their holder: a menu's or a window's, held as a
+// member so that the observers go before the widgets they update.
+class Watchers {
 public:
-    explicit Watchers(QObject* owner) : QObject(owner) {}
+    Watchers() = default;
     Watchers(const Watchers&) = delete;
     Watchers& operator=(const Watchers&) = delete;
-    ~Watchers() override;
+    ~Watchers();
     void add(Control& control, int id) { ids_.emplace_back(&control, id); }
 
 private:
@@ -71,7 +71,7 @@ private:
     QWidget* surface_;
     std::map<const Control*, QWidget*> widgets_;
     std::vector<PictureWidget*> pictures_;
-    Watchers observers_{nullptr}; // before the widgets go, as a member
+    Watchers observers_;
 };
 
 } // namespace platform::qt
