@@ -40,23 +40,24 @@ QString label(const QWidget* w) {
     return w->objectName() + (text.isEmpty() ? "" : " (" + text + ")");
 }
 
-// A command the user can reach: shown and enabled, and so is every menu above it.
+// A menu whose title shows, enabled, in a menu or on the bar that does the same.
+bool reachable(const QMenu* menu) {
+    for (; menu; menu = qobject_cast<const QMenu*>(menu->parentWidget()))
+        if (!menu->menuAction()->isVisible() || !menu->menuAction()->isEnabled()) return false;
+    return true;
+}
+
+// A command the user can reach: shown and enabled, and so is what holds it.
 bool reachable(const Command& c) {
     if (!c.target) return false;
     if (auto* a = qobject_cast<QAction*>(c.target)) {
         if (!a->isVisible() || !a->isEnabled()) return false;
         const auto holders = a->associatedObjects();
-        for (QObject* o : holders) {
+        return std::any_of(holders.begin(), holders.end(), [](QObject* o) {
+            if (auto* menu = qobject_cast<QMenu*>(o)) return reachable(menu);
             auto* w = qobject_cast<QWidget*>(o);
-            if (auto* menu = qobject_cast<QMenu*>(o)) {
-                if (menu->menuAction()->isVisible() && menu->menuAction()->isEnabled())
-                    if (QMenu* up = qobject_cast<QMenu*>(menu->parent()); !up || up->isEnabled())
-                        return true;
-            } else if (w && w->isVisible() && w->isEnabled()) {
-                return true;
-            }
-        }
-        return false;
+            return w && w->isVisible() && w->isEnabled();
+        });
     }
     auto* w = qobject_cast<QWidget*>(c.target);
     return w && w->isVisible() && w->isEnabled();
