@@ -84,8 +84,8 @@ Plain plainDecode(const RunCells& file, std::span<int16_t> grid, int64_t width, 
 std::string checkLayout(std::span<const uint8_t> file, const PcxLayout& layout) {
     const auto L = static_cast<int64_t>(file.size());
     auto at = [&](int64_t pos) -> int64_t { return pos <= L ? file[pos - 1] : 0; };
-    // A field runs past the end as a whole or not at all.
-    const int64_t width = L >= 10 ? at(9) + 256 * at(10) + 1 : 1;
+    // The width is read a byte at a time, Ymax as one field: whole or not at all.
+    const int64_t width = at(9) + 256 * at(10) + 1;
     const int64_t ymax = L >= 12 ? at(11) + 256 * at(12) : 0;
     if (layout.width != width || layout.ymax != ymax) return "the size fields are misread";
     if (layout.cells.count != std::max<int64_t>(L - 897, 0) || layout.cells.lastCell != L + 1000 ||
