@@ -68,13 +68,10 @@ Plain plainDecode(const RunCells& file, std::span<int16_t> grid, int64_t width, 
             index = v;
         }
         ++p;
-        for (int64_t k = 0; k < n; ++k) {
-            if (r.reached >= static_cast<int64_t>(grid.size())) {
-                r.error = vb::SubscriptOutOfRange;
-                break;
-            }
-            grid[static_cast<std::size_t>(r.reached++)] = index;
-        }
+        const int64_t fits = std::min(n, static_cast<int64_t>(grid.size()) - r.reached);
+        std::fill_n(grid.begin() + r.reached, fits, index);
+        r.reached += fits;
+        if (fits < n) r.error = vb::SubscriptOutOfRange; // the run's first cell past the grid
     }
     r.end = r.reached;
     if (!recorded) r.black = r.end;
