@@ -18,6 +18,31 @@
 
 namespace vb {
 
+// Gives vectors their memory already zeroed by calloc: a fresh picture of megabytes costs
+// nothing until it is touched, instead of a pass writing zeros over it. A number is
+// "constructed" by leaving calloc's zero, so such a vector is made at its size once and
+// never grown into memory it used before.
+template <class T> struct ZeroedAllocator {
+    using value_type = T;
+    ZeroedAllocator() = default;
+    template <class U> ZeroedAllocator(const ZeroedAllocator<U>&) {}
+    T* allocate(std::size_t n) {
+        if (void* p = std::calloc(n, sizeof(T))) return static_cast<T*>(p);
+        throw std::bad_alloc();
+    }
+    void deallocate(T* p, std::size_t) { std::free(p); }
+    // A number's default is the zero calloc already wrote.
+    template <class U> void construct(U* p) {
+        if constexpr (!std::is_arithmetic_v<U>) ::new (static_cast<void*>(p)) U();
+    }
+    template <class U, class... A> void construct(U* p, A&&... args) {
+        ::new (static_cast<void*>(p)) U(std::forward<A>(args)...);
+    }
+    template <class U> bool operator==(const ZeroedAllocator<U>&) const { return true; }
+};
+
+template <class T> using ZeroedVector = std::vector<T, ZeroedAllocator<T>>;
+
 // The elements of an array in memory zeroed by calloc, made and dropped without a pass
 // over the elements: a fresh grid of megabytes costs nothing until it is touched (and in
 // an instrumented build a loop over every cell of a hostile header's grid is most of the
