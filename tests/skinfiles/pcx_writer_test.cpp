@@ -2,7 +2,10 @@
 // above, the current palette, no marker; the target's name and the silent failures.
 #include "skinfiles/pcx_test_support.h"
 
+#include <fstream>
 #include <random>
+#include <sys/resource.h>
+#include <sys/stat.h>
 
 namespace tavrin::test {
 namespace {
@@ -98,6 +101,37 @@ TEST_F(PcxWriter, AFailedSaveKeepsTheOldFileAndSaysWhy) {
     host.answerSave(dir.file("fine.pcx"));
     frm.ex_Click();
     EXPECT_EQ(frm.StatusBar1.Panels(1).Text.get(), "Ready...");
+}
+
+// Targets the save must neither open nor read: a pipe would block, a device would never
+// end, and a huge old file would be read whole before being replaced.
+TEST_F(PcxWriter, TargetsThatAreNoPlainFileAreRefusedAndAnOldFileIsNotRead) {
+    namespace fs = std::filesystem;
+    openSkin(host, frm, dir.write("in.pcx", encodePcx(2, 1, {5, 6}, gamePalette())));
+    ASSERT_EQ(::mkfifo(dir.file("pipe.PCX").c_str(), 0644), 0);
+    fs::create_symlink("/dev/zero", dir.file("zero.PCX"));
+    { std::ofstream(dir.file("big.PCX"), std::ios::binary); }
+    fs::resize_file(dir.file("big.PCX"), std::uintmax_t{1} << 30); // sparse: costs no disk
+    const struct {
+        const char* name;
+        const char* status;
+    } cases[] = {
+        {"pipe.pcx", "Save failed: Not a regular file"},
+        {"zero.pcx", "Save failed: Not a regular file"},
+        {"big.pcx", "Ready..."},
+    };
+    rusage before{}, after{};
+    ::getrusage(RUSAGE_SELF, &before);
+    for (const auto& c : cases) {
+        SCOPED_TRACE(c.name);
+        host.answerSave(dir.file(c.name));
+        frm.ex_Click();
+        EXPECT_EQ(frm.StatusBar1.Panels(1).Text.get(), c.status);
+    }
+    ::getrusage(RUSAGE_SELF, &after);
+    EXPECT_LT(after.ru_maxrss - before.ru_maxrss, 64 * 1024); // kilobytes
+    EXPECT_TRUE(fs::is_fifo(dir.file("pipe.PCX")));
+    EXPECT_EQ(readFile(dir.file("big.PCX")), expectedFile());
 }
 
 TEST_F(PcxWriter, NoSkinGivesHeaderAndPaletteOnly) {
