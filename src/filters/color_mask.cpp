@@ -119,6 +119,9 @@ void FrmMain::GetMask() {
     SSPanel7.Height = std::max(kPanelLeast, picture1.Height + 1400);
     SSPanel9.Width = SSPanel7.Width - 75;
     SSCommand9.Left = SSPanel9.Width - 300;
+    // The buttons keep to the bottom of a panel grown for a large skin.
+    SSCommand5.Top = SSPanel7.Height - 555;
+    SSCommand6.Top = SSPanel7.Height - 555;
 
     drawMaskPreview();
     SSPanel7.Visible = true;
