@@ -50,7 +50,7 @@ const std::vector<MenuRow>& menuTable() {
         {&F::Eye,           1, "&Eye-Dropper",                       "Ctrl+E", off, on,  on,  &F::Eye_Click},
         {&F::pEdit,         1, "&Pixel Edit",                        "Ctrl+A", off, on,  on,  &F::pEdit_Click},
         {&F::mLine,         1, "&Line",                              "Ctrl+L", off, off, off, &F::mLine_Click},
-        {&F::mFill,         1, "&Fill",                              "Ctrl+F", off, off, off, &F::mFill_Click},
+        {&F::mFill,         1, "&Fill",                              "Ctrl+F", off, on,  on,  &F::mFill_Click},
         {&F::mRect,         1, "&Rectangle",                         "",       off, on,  on,  &F::mRect_Click},
         {&F::mFrect,        1, "Re&ctangle Fill",                    "Ctrl+R", off, on,  on,  &F::mFrect_Click},
         {&F::Grf,           1, "&Gradient Rectangle Fill",           "Ctrl+G", off, on,  on,  &F::Grf_Click},

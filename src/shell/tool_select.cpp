@@ -116,7 +116,8 @@ void FrmMain::SSCommand15_Click() {
     SSPanel3.Caption = "Color Mask";
 }
 
-// Its menu item stays hidden and disabled; the handler is whole all the same.
+// Offered in the Tools menu, though it still says it is for the next version: the fill
+// paints a cross, not an area.
 void FrmMain::mFill_Click() {
     host_.MsgBox("NEXT BETA!", platform::kStyleOk);
     Tool_Mode = "Fill";
