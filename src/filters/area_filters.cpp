@@ -64,6 +64,16 @@ void visitPass(const PassArea& area, const PixelRect& live, Span&& span, RowDone
     }
 }
 
+constexpr std::size_t kSmallPass = 1024;
+
+// The pixels of the area, each side counted up to 1024.
+std::size_t area(const PassArea& a) {
+    const auto side = [](int64_t from, int64_t to) {
+        return static_cast<std::size_t>(std::clamp<int64_t>(to - from + 1, 0, 1024));
+    };
+    return side(a.x0, a.x1) * side(a.y0, a.y1);
+}
+
 } // namespace
 
 void FrmMain::workBufPasses(const filters::PassPlan& plan) {
@@ -100,8 +110,12 @@ void FrmMain::workBufPasses(const filters::PassPlan& plan) {
             refreshFirst, nothingSkipped);
         if (last) Cur_Color = *last;
     } else {
+        // A brush's few dozen cells read their records one by one: the palette's channels
+        // laid out for whole rows would cost more than the pass.
+        const auto records = static_cast<int64_t>(Pal_Table.size());
         const filters::PaletteColours palette =
-            filters::paletteColours(Pal_Table.data(), static_cast<int64_t>(Pal_Table.size()));
+            area(plan.first) <= kSmallPass ? filters::PaletteColours{Pal_Table.data(), records, {}}
+                                           : filters::paletteColours(Pal_Table.data(), records);
         visitPass(
             plan.first, live,
             [&](int64_t y, int64_t x0, int64_t x1) {
@@ -132,7 +146,7 @@ void FrmMain::workBufPasses(const filters::PassPlan& plan) {
         host_.skipRnd(2 * pixels);
     };
     if (!matchCache_) matchCache_ = std::make_shared<MatchCache>();
-    filters::PassMatcher matcher(*matchCache_, Pal_Table, f);
+    filters::PassMatcher matcher(*matchCache_, Pal_Table, f, area(plan.second));
 
     std::vector<int32_t> packed, colors, values16;
     visitPass(

@@ -90,16 +90,23 @@ void FrmMain::GetMask() {
     };
     // Row by row until the row below the picture; each row ends at the first position
     // right of it. A pixel whose place doesn't fit the record's 16 bits isn't listed.
+    const int32_t colour = Cur_Color;
     while (Mask_Row_Pixel != -1) {
         readRow(Mask_Scan_Y);
-        for (std::size_t x = 0; x < row.size(); ++x) {
-            if (row[x] != Cur_Color || !fits16(static_cast<int64_t>(x)) || !fits16(Mask_Scan_Y))
-                continue;
-            if (Mask_Pos < room)
-                records[Mask_Pos] = MaskRecord{static_cast<int16_t>(x),
-                                               static_cast<int16_t>(Mask_Scan_Y), red, green, blue};
-            Mask_Count = ++Mask_Pos;
+        // Held in locals for the row: the stores into the list would otherwise make the
+        // compiler read the fields back at every pixel.
+        const std::size_t listable =
+            fits16(Mask_Scan_Y) ? std::min<std::size_t>(row.size(), 32768) : 0;
+        const auto rowY = static_cast<int16_t>(Mask_Scan_Y);
+        int64_t pos = Mask_Pos;
+        for (std::size_t x = 0; x < listable; ++x) {
+            if (row[x] != colour) continue;
+            if (pos < room)
+                records[pos] = MaskRecord{static_cast<int16_t>(x), rowY, red, green, blue};
+            ++pos;
         }
+        Mask_Pos = static_cast<int32_t>(pos);
+        Mask_Count = Mask_Pos;
         Mask_Pixel = -1;
         // Past its maximum at the end, as the row below the picture counts too: the bar
         // stands full.
