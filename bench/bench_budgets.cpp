@@ -22,7 +22,7 @@ const std::vector<Budget>& budgets() {
         {"Sharpen 1024x1024 box", "sharpen/path", "sharpen/baseline", 15, false},
         {"Sharpen, box 2000 past the skin", "sharpen_far/path", "sharpen_far/baseline", 2, false},
         {"band move over 1000x1000", "band_move/path", "band_move/baseline", 0.05, false},
-        {"airbrush move at 9 Pixels, zoom 8", "air_move/path", "air_move/baseline", 5, false},
+        {"airbrush move at 9 Pixels, zoom 8", "air_move/path", "stroke_move/path", 5, false},
         {"GetMask 1024x1024 of one colour", "get_mask/path", "get_mask/baseline", 10, false},
     };
     return all;

@@ -1,8 +1,8 @@
 # Shared by the end-to-end tests that work on the canvas with the real mouse and replay
 # the same commands in the headless driver: where the bars and the canvas stand, clicks
 # on their buttons, menus and the popup, and the replay script those steps write.
-# Usage: . lib.sh; . canvas_lib.sh; start_x; start_tavrin; main=$(press_ok);
-#        open_skin "$main" "$WORK/skin.pcx"; find_bars; find_canvas; steps...
+# Usage: . lib.sh; . canvas_lib.sh; set TAVRIN, SCRIPT and WORK; open_on_canvas SKIN;
+#        steps...; compare_with_replay
 
 # The file dialogs of lib.sh's open and save, patient on a busy machine: the dialog has
 # the keyboard before the name goes in, and the name goes in again while it stays open.
@@ -119,6 +119,18 @@ colour() {
     at="$((11 * ($1 % 16) + 5)) $((11 * ($1 / 16) + 5))"
     step "palette down 1 0 $at"
     step "palette up 1 0 $at"
+}
+
+# The editor started on a private X server with a copy of the skin open, the bars and
+# the canvas found, and the replay begun.
+open_on_canvas() {
+    cp "$1" "$WORK/skin.pcx"
+    start_x
+    start_tavrin "$TAVRIN"
+    main=$(press_ok)
+    open_skin "$main" "$WORK/skin.pcx"
+    find_bars
+    find_canvas
 }
 
 # Saves the window's skin and the replay's, and compares them.

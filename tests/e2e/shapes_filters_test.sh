@@ -10,14 +10,7 @@ TAVRIN="$1"
 SCRIPT="$2"
 WORK="$(mktemp -d)"
 trap 'finish; rm -rf "$WORK"' EXIT
-cp "$3" "$WORK/skin.pcx"
-start_x
-
-start_tavrin "$TAVRIN"
-main=$(press_ok)
-open_skin "$main" "$WORK/skin.pcx"
-find_bars
-find_canvas
+open_on_canvas "$3"
 colour 208
 
 tool_button 1080 810;  step "click SSCommand28"; drag 8 8 30 26         # Rectangle

@@ -10,14 +10,7 @@ TAVRIN="$1"
 SCRIPT="$2"
 WORK="$(mktemp -d)"
 trap 'finish; rm -rf "$WORK"' EXIT
-cp "$3" "$WORK/skin.pcx"
-start_x
-
-start_tavrin "$TAVRIN"
-main=$(press_ok)
-open_skin "$main" "$WORK/skin.pcx"
-find_bars
-find_canvas
+open_on_canvas "$3"
 
 # A press at (x1, y) and four moves with the button held to (x2, y): the brushes paint at
 # each event, so the replay gets every one of them.
@@ -67,8 +60,8 @@ popup Down Down Down Down Down Down Down Down Down Return; step "click difPop"; 
 menu 188 Down Down Down Return;     step "click Lightt" # Lighten Image, at once
 popup Down Down Down Down Down Down Down Down Down Down Down Down Down Return
 step "click liPop"
-tool_button 180 810;                step "click SSCommand15"; press 30 150 # Colour replace
-colour 40
+tool_button 180 810;                step "click SSCommand15"; press 150 100 # Colour replace
+colour 208
 mask_button 240;                    step "click SSCommand5"  # the colour it had
 mask_button 2160;                   step "click SSCommand6"  # the current colour
 menu 96 Down Down Down Return;      step "click Mask"        # View > Mask: hidden
