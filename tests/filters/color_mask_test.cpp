@@ -63,17 +63,5 @@ TEST_F(ColorMask, AClickListsTheColoursPixelsAndTheButtonsPaintThem) {
     EXPECT_EQ(frm.Picture26.Point(10, 8), colourOf(34));
 }
 
-TEST_F(ColorMask, WithAnEmptyListTheButtonsChangeNothing) {
-    frm.Mask_Click();
-    EXPECT_TRUE(frm.SSPanel7.Visible);
-    frm.SSCommand6_Click();
-    frm.SSCommand5_Click();
-    for (int y = 0; y < kH; ++y)
-        for (int x = 0; x < kW; ++x)
-            EXPECT_EQ(grid(x, y), skinIndex(x, y));
-    frm.Mask_Click();
-    EXPECT_FALSE(frm.SSPanel7.Visible);
-}
-
 } // namespace
 } // namespace tavrin::test
