@@ -7,8 +7,9 @@ namespace tavrin::filters {
 Channels splitColor(int32_t packed) {
     // Mod keeps the dividend's sign, as C++'s % does; the division is exact.
     const int32_t high = static_cast<int32_t>(static_cast<uint32_t>(packed) & 0xFFFFFF00u) / 256;
+    const int32_t blue = (packed & 0xFF0000) >> 16; // never negative: the division exactly
     return {static_cast<double>(packed % 256), static_cast<double>(high % 256),
-            static_cast<double>((packed & 0xFF0000) / 65536)};
+            static_cast<double>(blue)};
 }
 
 void splitRow(const WorkPlanes& work, int64_t y, int64_t x0, const int32_t* colors, int64_t count,
