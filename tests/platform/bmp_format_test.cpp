@@ -29,10 +29,10 @@ TEST(BmpFormat, NarrowPartsAreStretchedOverAByte) {
     masked.pixels = {0xF800, 0x07E0, 0x0400, 0xFFFF, 0x0001, 0};
     EXPECT_EQ(platform::decodeBmp(writeBmp(plain)).px,
               (vb::ZeroedVector<uint32_t>{packed(255, 0, 0), packed(0, 255, 0), packed(0, 0, 255),
-                                     packed(132, 0, 0), 0, 0}));
+                                          packed(132, 0, 0), 0, 0}));
     EXPECT_EQ(platform::decodeBmp(writeBmp(masked)).px,
               (vb::ZeroedVector<uint32_t>{packed(255, 0, 0), packed(0, 255, 0), packed(0, 130, 0),
-                                     0xFFFFFF, packed(0, 0, 8), 0}));
+                                          0xFFFFFF, packed(0, 0, 8), 0}));
 }
 
 // 4 x 3 pixels in runs, stored from the bottom row up: on the bottom row a run of two 5s, then
