@@ -124,9 +124,12 @@ void FormWindow::buildControls() {
         observers_.add(*c, c->observe([c, widget, place](const PropBase* p) {
             if (p == &c->Left || p == &c->Top || p == &c->Width || p == &c->Height)
                 place();
-            else if (p == &c->Visible)
+            else if (p == &c->Visible) {
                 widget->setVisible(c->Visible);
-            else if (p == &c->Enabled)
+                // A bar shown while the program runs comes up over those beside it: the
+                // brush kinds open over the tool bar.
+                if (c->Visible) widget->raise();
+            } else if (p == &c->Enabled)
                 widget->setEnabled(c->Enabled);
             else
                 updateControlWidget(*c, widget, p);
