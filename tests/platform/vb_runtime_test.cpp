@@ -182,9 +182,7 @@ TEST(Variant, HoldsTheKindLastAssignedAndComparesTextsAsTexts) {
     EXPECT_TRUE(unset != "Draw");
     EXPECT_TRUE(unset == 0);
 
-    EXPECT_EQ(vb::Variant(30000).kind(), vb::Variant::Kind::Integer);
-    EXPECT_EQ(vb::Variant(40000).kind(), vb::Variant::Kind::Long);
-    EXPECT_EQ(vb::Variant(int64_t{1} << 40).kind(), vb::Variant::Kind::Double);
+    EXPECT_EQ(vb::Variant(int64_t{1} << 40).num(), 1099511627776.0); // no 32-bit cut
     // Arithmetic widens: two 16-bit values multiply without overflow.
     vb::Variant a(int16_t{30000});
     EXPECT_EQ(a * a, 9e8);
