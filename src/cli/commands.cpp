@@ -19,6 +19,7 @@ const std::vector<Command>& commands() {
         {"key", keyCommand},       {"slider", sliderCommand},   {"resize", resizeCommand},
         {"grip", gripCommand},     {"drop", dropCommand},       {"set", setCommand},
         {"print", printCommand},   {"bounds", boundsCommand},   {"dump", dumpCommand},
+        {"preview", previewCommand},
     };
     return table;
 }

@@ -54,9 +54,13 @@ uint32_t shade(uint32_t c, double light) {
 }
 
 uint32_t texel(const SkinTexture& skin, double u, double v) {
+    // renderPreview has checked that the colours fill width x height.
     if (skin.width <= 0 || skin.height <= 0) return 0xFFFFFF;
-    const int x = std::clamp(static_cast<int>(std::floor(u)), 0, skin.width - 1);
-    const int y = std::clamp(static_cast<int>(std::floor(v)), 0, skin.height - 1);
+    // Clamped as doubles: a coordinate far off (or not a number) must not reach the cast.
+    auto cell = [](double c, int size) {
+        return c >= 0 ? static_cast<int>(std::min(std::floor(c), size - 1.0)) : 0;
+    };
+    const int x = cell(u, skin.width), y = cell(v, skin.height);
     return skin.px[static_cast<std::size_t>(y) * static_cast<std::size_t>(skin.width) +
                    static_cast<std::size_t>(x)];
 }
@@ -138,29 +142,63 @@ std::vector<uint32_t> renderPreview(const Md2Mesh& mesh, std::size_t frame, cons
     std::vector<uint32_t> out(pixels, kPreviewBackground);
     if (frame >= mesh.frames.size() || pixels == 0) return out;
     const Md2Mesh::Frame& f = mesh.frames[frame];
+    // A mesh made by hand may name corners it doesn't have: nothing is drawn of it.
+    for (const auto& tri : mesh.triangles)
+        for (const auto& corner : tri)
+            if (corner.vertex >= f.vertices.size() || corner.st >= mesh.st.size()) return out;
+    SkinTexture blank;
+    const SkinTexture& texture =
+        skin.width > 0 && skin.height > 0 &&
+                skin.px.size() >= static_cast<std::size_t>(skin.width) * skin.height
+            ? skin
+            : blank;
+    // The coordinates count pixels of the skin size the model names; a skin of another
+    // size is stretched over them, as the game does.
+    const double toU = mesh.skinWidth > 0 && texture.width > 0
+                           ? static_cast<double>(texture.width) / mesh.skinWidth
+                           : 1.0;
+    const double toV = mesh.skinHeight > 0 && texture.height > 0
+                           ? static_cast<double>(texture.height) / mesh.skinHeight
+                           : 1.0;
 
-    std::vector<Vec> at(f.vertices.size());
+    // The camera is set on the first frame, so that an animation moves the model before a
+    // still viewer, as the game shows it; a frame reaching further widens the view.
+    auto positions = [&mesh](const Md2Mesh::Frame& from) {
+        std::vector<Vec> made(from.vertices.size());
+        for (std::size_t v = 0; v < made.size(); ++v) {
+            const auto p = mesh.position(from, static_cast<uint16_t>(v));
+            made[v] = {p[0], p[1], p[2]};
+        }
+        return made;
+    };
+    const std::vector<Vec> first = positions(mesh.frames.front());
+    std::vector<Vec> at = frame == 0 ? first : positions(f);
     Vec lo{std::numeric_limits<double>::max(), std::numeric_limits<double>::max(),
            std::numeric_limits<double>::max()};
     Vec hi{-lo[0], -lo[1], -lo[2]};
-    for (std::size_t v = 0; v < at.size(); ++v) {
-        const auto p = mesh.position(f, static_cast<uint16_t>(v));
-        at[v] = {p[0], p[1], p[2]};
+    for (const Vec& p : first)
         for (std::size_t k = 0; k < 3; ++k) {
-            lo[k] = std::min(lo[k], at[v][k]);
-            hi[k] = std::max(hi[k], at[v][k]);
+            lo[k] = std::min(lo[k], p[k]);
+            hi[k] = std::max(hi[k], p[k]);
         }
-    }
     Camera cam;
     cam.centre = {(lo[0] + hi[0]) / 2, (lo[1] + hi[1]) / 2, (lo[2] + hi[2]) / 2};
     double radius = 0;
+    for (const Vec& p : first) {
+        const Vec d = sub(p, cam.centre);
+        radius = std::max(radius, std::sqrt(dot(d, d)));
+    }
     for (Vec& p : at) {
         p = sub(p, cam.centre);
         radius = std::max(radius, std::sqrt(dot(p, p)));
     }
     if (!(radius > 0) || !std::isfinite(radius)) radius = 1;
-    const double yaw = view.yaw * std::numbers::pi / 180,
-                 pitch = view.pitch * std::numbers::pi / 180;
+    // Angles and zoom from outside are kept finite and the zoom bounded, so that every
+    // screen position is a number the fill can turn into a pixel.
+    auto finite = [](double v) { return std::isfinite(v) ? v : 0.0; };
+    const double yaw = std::fmod(finite(view.yaw), 360.0) * std::numbers::pi / 180,
+                 pitch = std::fmod(finite(view.pitch), 360.0) * std::numbers::pi / 180;
+    const double zoom = std::isfinite(view.zoom) ? std::clamp(view.zoom, 0.01, 100.0) : 1.0;
     cam.cy = std::cos(yaw), cam.sy = std::sin(yaw), cam.cp = std::cos(pitch),
     cam.sp = std::sin(pitch);
 
@@ -169,7 +207,7 @@ std::vector<uint32_t> renderPreview(const Md2Mesh& mesh, std::size_t frame, cons
     const double distance = 3 * radius;
     // The nearest point of the model is two radii off: at zoom 1 nothing reaches past
     // 0.475 of the picture's smaller side from the middle, however the model is turned.
-    const double focal = std::min(width, height) * 0.95 * std::max(view.zoom, 0.01);
+    const double focal = std::min(width, height) * 0.95 * zoom;
     std::vector<Vec> turned(at.size());
     for (std::size_t v = 0; v < at.size(); ++v)
         turned[v] = cam.turn(at[v]);
@@ -196,14 +234,14 @@ std::vector<uint32_t> renderPreview(const Md2Mesh& mesh, std::size_t frame, cons
             corners[k] = {width / 2.0 + focal * p[1] * w,
                           height / 2.0 - focal * p[2] * w,
                           w,
-                          st[0] * w,
-                          st[1] * w,
+                          st[0] * toU * w,
+                          st[1] * toV * w,
                           view.smooth ? lightOf(unit(normals[tri[k].vertex])) * w : 0};
         }
         const double faceLight =
             lightOf(unit(cross(sub(turned[tri[1].vertex], turned[tri[0].vertex]),
                                sub(turned[tri[2].vertex], turned[tri[0].vertex]))));
-        fill(corners[0], corners[1], corners[2], !view.smooth, faceLight, skin, target);
+        fill(corners[0], corners[1], corners[2], !view.smooth, faceLight, texture, target);
     }
     return out;
 }

@@ -7,26 +7,6 @@
 namespace tavrin::test {
 namespace {
 
-// A card of two faces a little apart: the front (x = 128) maps the top left 2 x 2 texels
-// of the skin, the back (x = 120) the bottom right ones. Skin texels: red, green, yellow,
-// cyan in the top left 2 x 2, blue in the bottom right 2 x 2, grey elsewhere.
-Md2 card() {
-    Md2 m;
-    m.skinWidth = m.skinHeight = 4;
-    m.st = {{0, 0}, {2, 0}, {0, 2}, {2, 2}, {2, 2}, {4, 2}, {2, 4}, {4, 4}};
-    // Vertices: front top left (y 0, z 255), front top right, front bottom left, front
-    // bottom right, then the same four at the back.
-    m.xyz = {{0, 1, 2}, {1, 3, 2}, {4, 5, 6}, {5, 7, 6}};
-    m.tris = {{0, 1, 2}, {1, 3, 2}, {4, 5, 6}, {5, 7, 6}};
-    Md2::Frame f;
-    f.name = "stand01";
-    f.vertices = {{128, 0, 255}, {128, 255, 255}, {128, 0, 0}, {128, 255, 0},
-                  {120, 0, 255}, {120, 255, 255}, {120, 0, 0}, {120, 255, 0}};
-    m.frames = {f, f};
-    m.frames[1].name = "run1";
-    return m;
-}
-
 SkinTexture cardSkin() {
     SkinTexture s{4, 4, std::vector<uint32_t>(16, 0x808080)};
     s.px[0] = 0x0000FF, s.px[1] = 0x00FF00, s.px[4] = 0x00FFFF, s.px[5] = 0xFFFF00;
@@ -44,7 +24,7 @@ std::string hue(uint32_t c) {
 }
 
 TEST(ModelPreview, FacesShowTheTexelsTheirCoordinatesMapAndTurningShowsTheBack) {
-    const Md2MeshRead read = readMd2Mesh(card().bytes());
+    const Md2MeshRead read = readMd2Mesh(previewCard().bytes());
     ASSERT_EQ(read.problem, "");
     ASSERT_EQ(read.mesh.frames.size(), 2u);
     EXPECT_EQ(read.mesh.frames[1].name, "run1");
@@ -79,14 +59,14 @@ TEST(ModelPreview, ADamagedModelSaysWhyInsteadOfShowingPart) {
         b.resize(b.size() - cut);
         return readMd2Mesh(b).problem;
     };
-    Md2 m = card();
+    Md2 m = previewCard();
     EXPECT_NE(problem(m, 1), ""); // the last frame cut short
     m.xyz[3] = {5, 7, 8};         // a vertex past the eight there are
     EXPECT_NE(problem(m), "");
-    m = card();
+    m = previewCard();
     m.tris[0] = {0, 1, 9};
     EXPECT_NE(problem(m), "");
-    m = card();
+    m = previewCard();
     m.numTris = 1 << 30; // a count no file could hold asks for nothing
     EXPECT_NE(problem(m), "");
     EXPECT_NE(readMd2Mesh(Bytes(40, 0)).problem, "");
