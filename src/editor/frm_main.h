@@ -19,15 +19,16 @@ namespace tavrin {
 using platform::PictureBox;
 using vb::Variant;
 
-class MatchCache;    // palette/color_match.h
-struct LitPixels;    // tools/text_scan.h
-class FrmPrint;      // shell/frm_print.h
-struct PreviewModel; // model/model_preview.h
-namespace filters {  // filters/work_buf_kernels.h
+class MatchCache;   // palette/color_match.h
+struct LitPixels;   // tools/text_scan.h
+class FrmPrint;     // shell/frm_print.h
+namespace filters { // filters/work_buf_kernels.h
 struct GridCells;
 struct PassArea;
 enum class Kernel : int;
 } // namespace filters
+
+struct PreviewModel; // model/model_preview.h
 
 class FrmMain : public MainControls {
 public:
