@@ -3,6 +3,7 @@
 #include "editor/frm_main.h"
 
 #include <cmath>
+#include <filesystem>
 #include <fstream>
 #include <new>
 
@@ -17,6 +18,10 @@ std::shared_ptr<const PreviewModel> readPreviewModel(const std::string& path) {
         return model;
     };
     try {
+        // A folder opens as a stream too, with a length of its own.
+        std::error_code error;
+        if (!std::filesystem::is_regular_file(path, error))
+            return fail("The model's file can't be read.");
         std::ifstream in(path, std::ios::binary | std::ios::ate);
         if (!in) return fail("The model's file can't be read.");
         const std::streamoff size = in.tellg();
@@ -37,16 +42,23 @@ std::shared_ptr<const PreviewModel> readPreviewModel(const std::string& path) {
 // The grid's whole rows within its bounds, Skin_Height of them at most.
 SkinTexture editorSkinTexture(const FrmMain& frm) {
     SkinTexture skin;
-    if (!frm.Skin_Grid.allocated()) return skin;
+    editorSkinTexture(frm, skin);
+    return skin;
+}
+
+void editorSkinTexture(const FrmMain& frm, SkinTexture& skin) {
+    skin.width = skin.height = 0;
+    skin.px.clear();
+    if (!frm.Skin_Grid.allocated()) return;
     double width = 0, height = 0;
     try {
         width = std::floor(frm.Skin_Width.num());
         height = std::floor(frm.Skin_Height.num());
     } catch (const vb::Error&) {
-        return skin; // a width that isn't a number: no skin to show
+        return; // a width that isn't a number: no skin to show
     }
     const auto cells = static_cast<double>(frm.Skin_Grid.size());
-    if (!(width >= 1 && width <= cells) || !(height >= 1)) return skin;
+    if (!(width >= 1 && width <= cells) || !(height >= 1)) return;
     // The rows the picture has, as the header that a save writes gives them: a PCX load
     // keeps three rows more in the grid than the picture shows.
     const double headerRows = frm.PCX_Header(11) + 256.0 * frm.PCX_Header(12) + 1;
@@ -68,7 +80,6 @@ SkinTexture editorSkinTexture(const FrmMain& frm) {
         // Only the palette's 256 colours reach a saved skin; any other index shows black.
         skin.px[k] = index >= 0 && index < 256 ? colours[index] : 0;
     }
-    return skin;
 }
 
 std::vector<FrameGroup> frameGroups(const Md2Mesh& mesh) {

@@ -33,6 +33,8 @@ std::shared_ptr<const PreviewModel> readPreviewModel(const std::string& path);
 // grid's rows as wide as its stride. An index the palette doesn't hold shows black; no
 // skin gives an empty texture.
 SkinTexture editorSkinTexture(const FrmMain& frm);
+// The same into a texture whose memory is taken again.
+void editorSkinTexture(const FrmMain& frm, SkinTexture& into);
 
 // Frames that share a group name and follow each other ("run1" to "run6").
 struct FrameGroup {

@@ -39,8 +39,8 @@ struct Camera {
     }
 };
 
-// Light from the viewer's side, a little from above and the right. Both faces of a
-// triangle are lit alike: a model's winding says nothing here.
+// Light from the viewer's side, a little from above and the right. A normal is taken
+// either way round: a vertex's faces may not all agree.
 double lightOf(const Vec& normal) {
     static const Vec light = unit(Vec{1.0, 0.35, 0.6});
     return 0.35 + 0.65 * std::abs(dot(normal, light));
@@ -48,7 +48,7 @@ double lightOf(const Vec& normal) {
 
 // The light in 1/256ths, so that a channel takes one multiply.
 uint32_t shade(uint32_t c, double light) {
-    const auto l = static_cast<uint32_t>(std::lround(std::clamp(light, 0.0, 1.0) * 256));
+    const auto l = static_cast<uint32_t>(std::clamp(light, 0.0, 1.0) * 256 + 0.5);
     auto part = [l](uint32_t v) { return std::min<uint32_t>(255, (v * l + 128) >> 8); };
     return part(c & 0xFF) | part((c >> 8) & 0xFF) << 8 | part((c >> 16) & 0xFF) << 16;
 }
@@ -58,7 +58,7 @@ uint32_t texel(const SkinTexture& skin, double u, double v) {
     if (skin.width <= 0 || skin.height <= 0) return 0xFFFFFF;
     // Clamped as doubles: a coordinate far off (or not a number) must not reach the cast.
     auto cell = [](double c, int size) {
-        return c >= 0 ? static_cast<int>(std::min(std::floor(c), size - 1.0)) : 0;
+        return c >= 0 ? static_cast<int>(std::min(c, size - 1.0)) : 0; // truncation is floor here
     };
     const int x = cell(u, skin.width), y = cell(v, skin.height);
     return skin.px[static_cast<std::size_t>(y) * static_cast<std::size_t>(skin.width) +
@@ -68,7 +68,7 @@ uint32_t texel(const SkinTexture& skin, double u, double v) {
 struct Target {
     int width, height;
     std::vector<uint32_t>& px;
-    std::vector<double>& depth; // 1 / distance; larger is nearer
+    std::vector<float>& depth; // 1 / distance; larger is nearer
 };
 
 // Fills the triangle's pixels whose centres it covers, nearer than what stands there. The
@@ -77,15 +77,37 @@ struct Target {
 void fill(const Corner& a, const Corner& b, const Corner& c, bool flatLight, double faceLight,
           const SkinTexture& skin, Target& t) {
     const double area = (b.x - a.x) * (c.y - a.y) - (b.y - a.y) * (c.x - a.x);
-    if (!(std::abs(area) > 1e-12)) return;
-    const int x0 = std::max(0, static_cast<int>(std::floor(std::min({a.x, b.x, c.x}))));
-    const int x1 = std::min(t.width - 1, static_cast<int>(std::ceil(std::max({a.x, b.x, c.x}))));
-    const int y0 = std::max(0, static_cast<int>(std::floor(std::min({a.y, b.y, c.y}))));
-    const int y1 = std::min(t.height - 1, static_cast<int>(std::ceil(std::max({a.y, b.y, c.y}))));
+    // A face turned away is hidden behind the model's front, and the game leaves it out
+    // as well: a model's corners run clockwise on the screen (y down) seen from outside.
+    if (!(area > 1e-12)) return;
+    // The box of pixels the corners span, within the picture; floor and ceiling by casts of
+    // values already brought inside it (a position that is no number spans nothing).
+    auto lowest = [](double v, int last) {
+        return v > 0 ? static_cast<int>(std::min(v, last + 1.0)) : 0;
+    };
+    auto highest = [](double v, int last) {
+        if (!(v >= 0)) return -1;
+        const double in = std::min(v, static_cast<double>(last));
+        const auto whole = static_cast<int>(in);
+        return whole < in ? whole + 1 : whole;
+    };
+    const int x0 = lowest(std::min({a.x, b.x, c.x}), t.width - 1);
+    const int x1 = highest(std::max({a.x, b.x, c.x}), t.width - 1);
+    const int y0 = lowest(std::min({a.y, b.y, c.y}), t.height - 1);
+    const int y1 = highest(std::max({a.y, b.y, c.y}), t.height - 1);
+    if (x0 > x1 || y0 > y1) return;
     // Weight of a corner at (px, py): the opposite edge's function over the area; it grows
     // by dx along a row and by dy down a column.
     struct Edge {
         double dx, dy, at0;
+    };
+    // floor(w0 / dx) given 1 / dx, kept within the box's width so that the cast is safe:
+    // the pixels along a row before an edge's weight changes sign.
+    const double span = x1 - x0 + 1;
+    auto steps = [span](double w0, double perPixel) {
+        const double n = std::clamp(w0 * perPixel, -span - 1, span + 1);
+        const auto whole = static_cast<int>(n); // towards zero
+        return n < whole ? whole - 1 : whole;   // floor
     };
     auto edge = [&](const Corner& p, const Corner& q) {
         const double dx = (p.y - q.y) / area, dy = (q.x - p.x) / area;
@@ -97,16 +119,22 @@ void fill(const Corner& a, const Corner& b, const Corner& c, bool flatLight, dou
     const Edge ea = edge(b, c), eb = edge(c, a);
     const Edge ec{-ea.dx - eb.dx, -ea.dy - eb.dy, 1 - ea.at0 - eb.at0};
     const double ldw = flatLight ? 0 : 1;
+    const Edge edges[3] = {ea, eb, ec};
+    // 1 / dx once a triangle rather than a division per edge and row.
+    double perPixel[3];
+    for (std::size_t k = 0; k < 3; ++k)
+        perPixel[k] = edges[k].dx != 0 ? 1 / edges[k].dx : 0;
     for (int y = y0; y <= y1; ++y) {
         // The stretch of the row where every weight can be positive, found from the three
         // lines; the test below still decides each pixel at its ends.
         double from = x0, to = x1;
-        for (const Edge& e : {ea, eb, ec}) {
+        for (std::size_t k = 0; k < 3; ++k) {
+            const Edge& e = edges[k];
             const double w0 = e.at0 + (y - y0) * e.dy;
             if (e.dx > 0)
-                from = std::max(from, x0 + std::floor(-w0 / e.dx));
+                from = std::max(from, x0 + static_cast<double>(steps(-w0, perPixel[k])));
             else if (e.dx < 0)
-                to = std::min(to, x0 + std::ceil(w0 / -e.dx));
+                to = std::min(to, x0 - static_cast<double>(steps(w0, perPixel[k])));
             else if (w0 < 0)
                 to = from - 1;
         }
@@ -121,7 +149,7 @@ void fill(const Corner& a, const Corner& b, const Corner& c, bool flatLight, dou
             if (wa < 0 || wb < 0 || wc < 0) continue;
             const double w = wa * a.w + wb * b.w + wc * c.w;
             if (w <= t.depth[at]) continue;
-            t.depth[at] = w;
+            t.depth[at] = static_cast<float>(w);
             const double toWorld = 1 / w;
             const double u = (wa * a.uw + wb * b.uw + wc * c.uw) * toWorld;
             const double v = (wa * a.vw + wb * b.vw + wc * c.vw) * toWorld;
@@ -136,16 +164,24 @@ void fill(const Corner& a, const Corner& b, const Corner& c, bool flatLight, dou
 
 std::vector<uint32_t> renderPreview(const Md2Mesh& mesh, std::size_t frame, const SkinTexture& skin,
                                     const PreviewView& view, int width, int height) {
+    PreviewBuffers buffers;
+    renderPreview(mesh, frame, skin, view, width, height, buffers);
+    return std::move(buffers.px);
+}
+
+void renderPreview(const Md2Mesh& mesh, std::size_t frame, const SkinTexture& skin,
+                   const PreviewView& view, int width, int height, PreviewBuffers& buffers) {
     width = std::max(width, 0);
     height = std::max(height, 0);
     const std::size_t pixels = static_cast<std::size_t>(width) * static_cast<std::size_t>(height);
-    std::vector<uint32_t> out(pixels, kPreviewBackground);
-    if (frame >= mesh.frames.size() || pixels == 0) return out;
+    std::vector<uint32_t>& out = buffers.px;
+    out.assign(pixels, kPreviewBackground);
+    if (frame >= mesh.frames.size() || pixels == 0) return;
     const Md2Mesh::Frame& f = mesh.frames[frame];
     // A mesh made by hand may name corners it doesn't have: nothing is drawn of it.
     for (const auto& tri : mesh.triangles)
         for (const auto& corner : tri)
-            if (corner.vertex >= f.vertices.size() || corner.st >= mesh.st.size()) return out;
+            if (corner.vertex >= f.vertices.size() || corner.st >= mesh.st.size()) return;
     SkinTexture blank;
     const SkinTexture& texture =
         skin.width > 0 && skin.height > 0 &&
@@ -223,27 +259,39 @@ std::vector<uint32_t> renderPreview(const Md2Mesh& mesh, std::size_t frame, cons
                     normals[corner.vertex][k] += n[k];
         }
 
-    std::vector<double> depth(pixels, 0.0);
-    Target target{width, height, out, depth};
+    buffers.depth.assign(pixels, 0.0F);
+    Target target{width, height, out, buffers.depth};
+    std::vector<double> vertexLight(normals.size());
+    for (std::size_t v = 0; v < normals.size(); ++v)
+        vertexLight[v] = lightOf(unit(normals[v]));
+    // Each vertex on the screen once: x, y and 1 / distance.
+    std::vector<Vec> screen(turned.size());
+    for (std::size_t v = 0; v < turned.size(); ++v) {
+        const Vec& p = turned[v];
+        const double w = 1 / (distance - p[0]);
+        screen[v] = {width / 2.0 + focal * p[1] * w, height / 2.0 - focal * p[2] * w, w};
+    }
     for (const auto& tri : mesh.triangles) {
+        const Vec &sa = screen[tri[0].vertex], &sb = screen[tri[1].vertex],
+                  &sc = screen[tri[2].vertex];
+        // Faces turned away go before any more is worked out for them (fill says why).
+        if (!((sb[0] - sa[0]) * (sc[1] - sa[1]) - (sb[1] - sa[1]) * (sc[0] - sa[0]) > 1e-12))
+            continue;
         Corner corners[3];
-        for (std::size_t k = 0; k < 3; ++k) {
-            const Vec& p = turned[tri[k].vertex];
-            const double w = 1 / (distance - p[0]);
-            const auto& st = mesh.st[tri[k].st];
-            corners[k] = {width / 2.0 + focal * p[1] * w,
-                          height / 2.0 - focal * p[2] * w,
-                          w,
-                          st[0] * toU * w,
-                          st[1] * toV * w,
-                          view.smooth ? lightOf(unit(normals[tri[k].vertex])) * w : 0};
+        for (std::size_t c = 0; c < 3; ++c) {
+            const Vec& on = screen[tri[c].vertex];
+            const double w = on[2];
+            const auto& st = mesh.st[tri[c].st];
+            corners[c] = {
+                on[0],           on[1],           w,
+                st[0] * toU * w, st[1] * toV * w, view.smooth ? vertexLight[tri[c].vertex] * w : 0};
         }
         const double faceLight =
-            lightOf(unit(cross(sub(turned[tri[1].vertex], turned[tri[0].vertex]),
-                               sub(turned[tri[2].vertex], turned[tri[0].vertex]))));
+            view.smooth ? 0
+                        : lightOf(unit(cross(sub(turned[tri[1].vertex], turned[tri[0].vertex]),
+                                             sub(turned[tri[2].vertex], turned[tri[0].vertex]))));
         fill(corners[0], corners[1], corners[2], !view.smooth, faceLight, texture, target);
     }
-    return out;
 }
 
 } // namespace tavrin

@@ -28,4 +28,13 @@ inline constexpr uint32_t kPreviewBackground = 0x3A3A3A;
 std::vector<uint32_t> renderPreview(const Md2Mesh& mesh, std::size_t frame, const SkinTexture& skin,
                                     const PreviewView& view, int width, int height);
 
+// The same into buffers kept from one picture to the next, as a window that draws
+// often does: their memory is taken again rather than asked of the system anew.
+struct PreviewBuffers {
+    std::vector<uint32_t> px; // the picture
+    std::vector<float> depth;
+};
+void renderPreview(const Md2Mesh& mesh, std::size_t frame, const SkinTexture& skin,
+                   const PreviewView& view, int width, int height, PreviewBuffers& buffers);
+
 } // namespace tavrin

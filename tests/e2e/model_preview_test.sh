@@ -1,0 +1,76 @@
+#!/bin/sh
+# View > Model Preview on a real model wearing its real skin: the window opens from the
+# menu, a stroke painted on the canvas shows on the model at the mouse-up, and a drag in
+# the preview turns the model.
+# Usage: model_preview_test.sh path/to/tavrin MODEL.md2 SKIN.pcx
+. "$(dirname "$0")/lib.sh"
+TAVRIN="$1"
+WORK="$(mktemp -d)"
+trap 'finish; rm -rf "$WORK"' EXIT
+[ -f "$2" ] && [ -f "$3" ] || { echo "no real model and skin: skipped"; exit 77; }
+cp "$2" "$WORK/tris.md2"
+cp "$3" "$WORK/skin.pcx"
+start_x
+
+start_tavrin "$TAVRIN"
+main=$(press_ok)
+open_skin "$main" "$WORK/skin.pcx"
+
+open_menu "$main" 96                             # View
+xdotool key Down Down Down Down Down Down Return # Wire Frame
+type_in_dialog "Import Base MD2 Wireframe." "$WORK/tris.md2"
+sleep 1
+
+open_menu "$main" 96                             # View
+xdotool key Up Return                            # its last item: Model Preview
+preview=$(wait_window "Model Preview - tris.md2")
+# Beside the canvas, which stands in the middle of the screen.
+xdotool windowmove "$preview" 700 60 windowsize "$preview" 570 560
+sleep 1
+
+# The difference of two pictures of the preview, in pixels.
+grab() { import -window "$preview" "$WORK/$1.png"; }
+differ() { compare -metric AE "$WORK/$1.png" "$WORK/$2.png" null: 2>&1 || true; }
+grab opened
+# The model drawn on the picture: more than the background's one colour.
+colours=$(convert "$WORK/opened.png" -format %k info:)
+[ "$colours" -gt 20 ] || fail "the preview shows no model ($colours colours)"
+
+# Pure green from the palette (cell 208, as paint_test.sh picks it) and the pencil.
+width=$(xdotool getdisplaygeometry | cut -d' ' -f1)
+panel_left=$(( (width * 15 - 3275 + 7) / 15 ))
+panel_top=$(navy_top $((panel_left + 40)))
+[ -n "$panel_top" ] || fail "the palette is not on the screen"
+xdotool mousemove $((panel_left + 13 + 5)) $((panel_top + 27 + 13 * 11 + 5)) click 1
+sleep 0.3
+open_menu "$main" 140                            # Tools
+xdotool key Down Down Down Return                # Pixel Edit
+sleep 0.3
+
+# A zigzag stroke over the skin's middle, the button held throughout.
+surface_top=$((panel_top - 510 / 15))
+cy=$((surface_top + ($(xdotool getdisplaygeometry | cut -d' ' -f2)) / 2))
+cx=$((width / 2 - 40))
+xdotool mousemove $((cx - 90)) $((cy - 80)) mousedown 1
+for dy in $(seq -80 4 80); do
+    xdotool mousemove $((cx - 90)) $((cy + dy)) mousemove $((cx + 90)) $((cy + dy))
+done
+xdotool mouseup 1
+sleep 0.5
+grab painted
+changed=$(differ opened painted)
+[ "$changed" -gt 0 ] || fail "the stroke does not show on the model"
+
+# A drag across the picture turns the model.
+xdotool mousemove --window "$preview" 200 250 mousedown 1
+for dx in $(seq 0 10 120); do xdotool mousemove --window "$preview" $((200 + dx)) 250; done
+xdotool mouseup 1
+sleep 0.5
+grab turned
+turned=$(differ painted turned)
+[ "$turned" -gt 0 ] || fail "a drag does not turn the model"
+
+if [ -n "${TAVRIN_SCREENSHOTS:-}" ]; then
+    import -window root -crop 900x620+370+20 +repage "$TAVRIN_SCREENSHOTS/model-preview.png"
+fi
+echo "model preview: ok ($changed pixels changed by the stroke, $turned by the turn)"
