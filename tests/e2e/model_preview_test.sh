@@ -21,21 +21,6 @@ xdotool key Down Down Down Down Down Down Return # Wire Frame
 type_in_dialog "Import Base MD2 Wireframe." "$WORK/tris.md2"
 sleep 1
 
-open_menu "$main" 96                             # View
-xdotool key Up Return                            # its last item: Model Preview
-preview=$(wait_window "Model Preview - tris.md2")
-# Beside the canvas, which stands in the middle of the screen.
-xdotool windowmove "$preview" 700 60 windowsize "$preview" 570 560
-sleep 1
-
-# The difference of two pictures of the preview, in pixels.
-grab() { import -window "$preview" "$WORK/$1.png"; }
-differ() { compare -metric AE "$WORK/$1.png" "$WORK/$2.png" null: 2>&1 || true; }
-grab opened
-# The model drawn on the picture: more than the background's one colour.
-colours=$(convert "$WORK/opened.png" -format %k info:)
-[ "$colours" -gt 20 ] || fail "the preview shows no model ($colours colours)"
-
 # Pure green from the palette (cell 208, as paint_test.sh picks it) and the pencil.
 width=$(xdotool getdisplaygeometry | cut -d' ' -f1)
 panel_left=$(( (width * 15 - 3275 + 7) / 15 ))
@@ -47,15 +32,31 @@ open_menu "$main" 140                            # Tools
 xdotool key Down Down Down Return                # Pixel Edit
 sleep 0.3
 
-# A zigzag stroke over the skin's middle, the button held throughout.
+open_menu "$main" 96                             # View
+xdotool key Up Return                            # its last item: Model Preview
+preview=$(wait_window "Model Preview - tris.md2")
+# Beside the canvas, which stands in the middle of the screen (a 256 x 256 skin).
+xdotool windowmove "$preview" 775 60 windowsize "$preview" 500 560
+sleep 1
+
+# The difference of two pictures of the preview, in pixels.
+grab() { import -window "$preview" "$WORK/$1.png"; }
+differ() { compare -metric AE "$WORK/$1.png" "$WORK/$2.png" null: 2>&1 || true; }
+grab opened
+# The model drawn on the picture: more than the background's one colour.
+colours=$(identify -format %k "$WORK/opened.png")
+[ "$colours" -gt 20 ] || fail "the preview shows no model ($colours colours)"
+
+# One stroke over the skin's middle, to and fro in rows, the button held throughout;
+# the pencil marks the pixel of each move, so the moves are a few pixels apart.
 surface_top=$((panel_top - 510 / 15))
 cy=$((surface_top + ($(xdotool getdisplaygeometry | cut -d' ' -f2)) / 2))
-cx=$((width / 2 - 40))
-xdotool mousemove $((cx - 90)) $((cy - 80)) mousedown 1
-for dy in $(seq -80 4 80); do
-    xdotool mousemove $((cx - 90)) $((cy + dy)) mousemove $((cx + 90)) $((cy + dy))
+cx=$((width / 2))
+moves=""
+for dy in $(seq -90 6 90); do
+    for dx in $(seq -110 3 110); do moves="$moves mousemove $((cx + dx)) $((cy + dy))"; done
 done
-xdotool mouseup 1
+xdotool mousemove $((cx - 110)) $((cy - 90)) mousedown 1 $moves mouseup 1
 sleep 0.5
 grab painted
 changed=$(differ opened painted)
@@ -71,6 +72,6 @@ turned=$(differ painted turned)
 [ "$turned" -gt 0 ] || fail "a drag does not turn the model"
 
 if [ -n "${TAVRIN_SCREENSHOTS:-}" ]; then
-    import -window root -crop 900x620+370+20 +repage "$TAVRIN_SCREENSHOTS/model-preview.png"
+    import -window root -crop 810x720+465+0 +repage "$TAVRIN_SCREENSHOTS/model-preview.png"
 fi
 echo "model preview: ok ($changed pixels changed by the stroke, $turned by the turn)"

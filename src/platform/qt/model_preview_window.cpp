@@ -83,6 +83,7 @@ ModelPreviewWindow::ModelPreviewWindow(tavrin::FrmMain& frm, QWidget* parent)
     setObjectName("modelPreview");
     setWindowTitle("Model Preview");
     resize(640, 600);
+    view_.zoom = 1.3; // a standing figure fills the height; the wheel takes it back
     buildControls();
 
     animation_.setInterval(kAnimationMs);
@@ -115,7 +116,7 @@ void ModelPreviewWindow::buildControls() {
     frames_->setObjectName("frameSlider");
     connect(frames_, &QSlider::valueChanged, this, [this](int v) { setFrame(v); });
     frameName_ = new QLabel(this);
-    frameName_->setMinimumWidth(110);
+    frameName_->setMinimumWidth(90);
     play_ = new QPushButton("Play", this);
     play_->setObjectName("playButton");
     connect(play_, &QPushButton::clicked, this, [this] {
@@ -127,6 +128,7 @@ void ModelPreviewWindow::buildControls() {
     });
     lighting_ = new QComboBox(this);
     lighting_->setObjectName("lighting");
+    lighting_->setMaximumWidth(140);
     lighting_->addItems({"Vertex normals", "Flat"});
     connect(lighting_, &QComboBox::currentIndexChanged, this, [this](int index) {
         view_.smooth = index == 0;
@@ -134,7 +136,7 @@ void ModelPreviewWindow::buildControls() {
     });
     groups_ = new QListWidget(this);
     groups_->setObjectName("frameGroups");
-    groups_->setMaximumWidth(150);
+    groups_->setMaximumWidth(140);
     connect(groups_, &QListWidget::currentRowChanged, this, [this](int row) {
         if (!model_ || row < 0) return;
         const auto groups = tavrin::frameGroups(model_->read.mesh);
@@ -148,13 +150,15 @@ void ModelPreviewWindow::buildControls() {
     controls->addWidget(play_);
     controls->addWidget(frames_, 1);
     controls->addWidget(frameName_);
-    controls->addWidget(lighting_);
     auto* left = new QVBoxLayout;
     left->addWidget(surface_, 1);
     left->addLayout(controls);
+    auto* right = new QVBoxLayout;
+    right->addWidget(groups_, 1);
+    right->addWidget(lighting_);
     auto* all = new QHBoxLayout(this);
     all->addLayout(left, 1);
-    all->addWidget(groups_);
+    all->addLayout(right);
 }
 
 void ModelPreviewWindow::open() {
@@ -162,6 +166,7 @@ void ModelPreviewWindow::open() {
     raise();
     activateWindow();
     followEditor();
+    draw(); // the model or the reason there is none, even when nothing changed
 }
 
 void ModelPreviewWindow::hideEvent(QHideEvent* event) {
@@ -222,11 +227,11 @@ void ModelPreviewWindow::followEditor() {
     if (!isVisible()) return;
     const auto before = model_;
     takeModel();
-    tavrin::SkinTexture skin = tavrin::editorSkinTexture(frm_);
+    tavrin::editorSkinTexture(frm_, looked_);
     const bool same =
-        skin.width == skin_.width && skin.height == skin_.height && skin.px == skin_.px;
+        looked_.width == skin_.width && looked_.height == skin_.height && looked_.px == skin_.px;
     if (same && before == model_) return;
-    skin_ = std::move(skin);
+    std::swap(skin_, looked_);
     draw();
 }
 
@@ -255,8 +260,8 @@ void ModelPreviewWindow::draw() {
     }
     const int w = surface_->width(), h = surface_->height();
     if (w <= 0 || h <= 0) return;
-    const std::vector<uint32_t> px =
-        tavrin::renderPreview(model_->read.mesh, frame_, skin_, view_, w, h);
+    tavrin::renderPreview(model_->read.mesh, frame_, skin_, view_, w, h, buffers_);
+    const std::vector<uint32_t>& px = buffers_.px;
     QImage picture(w, h, QImage::Format_RGB32);
     if (picture.isNull()) return;
     for (int y = 0; y < h; ++y) {

@@ -87,7 +87,8 @@ private:
     QTimer animation_, throttle_, soon_;
 
     std::shared_ptr<const tavrin::PreviewModel> model_;
-    tavrin::SkinTexture skin_;
+    tavrin::SkinTexture skin_, looked_; // the skin drawn, and the one last looked at
+    tavrin::PreviewBuffers buffers_;
     tavrin::PreviewView view_;
     std::size_t frame_ = 0;
     std::size_t groupFirst_ = 0, groupCount_ = 0; // the frames play loops over
