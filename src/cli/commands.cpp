@@ -19,6 +19,13 @@ const std::vector<Command>& commands() {
         {"key", keyCommand},       {"slider", sliderCommand},   {"resize", resizeCommand},
         {"grip", gripCommand},     {"drop", dropCommand},       {"set", setCommand},
         {"print", printCommand},   {"bounds", boundsCommand},   {"dump", dumpCommand},
+    };
+    return table;
+}
+
+// Commands added to the language since (the "Additions" of docs/tavrin-script.md).
+const std::vector<Command>& additions() {
+    static const std::vector<Command> table = {
         {"preview", previewCommand},
     };
     return table;
@@ -27,8 +34,9 @@ const std::vector<Command>& commands() {
 } // namespace
 
 CommandFn findCommand(const std::string& name) {
-    for (const Command& c : commands())
-        if (name == c.name) return c.run;
+    for (const auto* table : {&commands(), &additions()})
+        for (const Command& c : *table)
+            if (name == c.name) return c.run;
     return nullptr;
 }
 

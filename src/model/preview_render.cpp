@@ -48,7 +48,7 @@ double lightOf(const Vec& normal) {
 
 // The light in 1/256ths, so that a channel takes one multiply.
 uint32_t shade(uint32_t c, double light) {
-    const auto l = static_cast<uint32_t>(std::clamp(light, 0.0, 1.0) * 256 + 0.5);
+    const auto l = static_cast<uint32_t>(std::clamp(light, 0.0, 1.0) * 256); // a 256th less at most
     auto part = [l](uint32_t v) { return std::min<uint32_t>(255, (v * l + 128) >> 8); };
     return part(c & 0xFF) | part((c >> 8) & 0xFF) << 8 | part((c >> 16) & 0xFF) << 16;
 }
