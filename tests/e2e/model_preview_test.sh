@@ -21,16 +21,8 @@ xdotool key Down Down Down Down Down Down Return # Wire Frame
 type_in_dialog "Import Base MD2 Wireframe." "$WORK/tris.md2"
 sleep 1
 
-# Pure green from the palette (cell 208, as paint_test.sh picks it) and the pencil.
-width=$(xdotool getdisplaygeometry | cut -d' ' -f1)
-panel_left=$(( (width * 15 - 3275 + 7) / 15 ))
-panel_top=$(navy_top $((panel_left + 40)))
-[ -n "$panel_top" ] || fail "the palette is not on the screen"
-xdotool mousemove $((panel_left + 13 + 5)) $((panel_top + 27 + 13 * 11 + 5)) click 1
-sleep 0.3
-open_menu "$main" 140                            # Tools
-xdotool key Down Down Down Return                # Pixel Edit
-sleep 0.3
+pick_green_pencil "$main"
+panel_top=$PANEL_TOP
 
 open_menu "$main" 96                             # View
 xdotool key Up Return                            # its last item: Model Preview
