@@ -7,43 +7,16 @@
 namespace tavrin::test {
 namespace {
 
-SkinTexture cardSkin() {
-    SkinTexture s{4, 4, std::vector<uint32_t>(16, 0x808080)};
-    s.px[0] = 0x0000FF, s.px[1] = 0x00FF00, s.px[4] = 0x00FFFF, s.px[5] = 0xFFFF00;
-    s.px[10] = s.px[11] = s.px[14] = s.px[15] = 0xFF0000;
-    return s;
-}
+SkinTexture cardSkin() { return SkinTexture{4, 4, std::vector<uint32_t>(16, 0x808080)}; }
 
-// Which of the skin's pure colours a shaded pixel is: the channels that are lit.
-std::string hue(uint32_t c) {
-    std::string h;
-    if ((c & 0xFF) > 40) h += "r";
-    if (((c >> 8) & 0xFF) > 40) h += "g";
-    if (((c >> 16) & 0xFF) > 40) h += "b";
-    return h;
-}
-
-TEST(ModelPreview, FacesShowTheTexelsTheirCoordinatesMapAndTurningShowsTheBack) {
+// Which texel each face shows, and the back after a half turn, is the driver's test
+// (cli/model_preview_test.cpp), through the editor's skin; here what no skin decides.
+TEST(ModelPreview, AnEdgeOnCardOrAFrameThereIsntDrawsLittleOrNothing) {
     const Md2MeshRead read = readMd2Mesh(previewCard().bytes());
     ASSERT_EQ(read.problem, "");
     ASSERT_EQ(read.mesh.frames.size(), 2u);
     EXPECT_EQ(read.mesh.frames[1].name, "run1");
-    EXPECT_EQ(frameGroup("run1"), "run");
     const int size = 64;
-    auto at = [size](const std::vector<uint32_t>& px, int x, int y) {
-        return px[static_cast<std::size_t>(y * size + x)];
-    };
-    const auto front = renderPreview(read.mesh, 0, cardSkin(), PreviewView{}, size, size);
-    // The viewer's right is the model's +y, up its +z: the front's texel (0, 0) top left.
-    EXPECT_EQ(hue(at(front, 24, 24)), "r");
-    EXPECT_EQ(hue(at(front, 40, 24)), "g");
-    EXPECT_EQ(hue(at(front, 24, 40)), "rg");
-    EXPECT_EQ(hue(at(front, 40, 40)), "gb");
-    EXPECT_EQ(at(front, 1, 1), kPreviewBackground);
-    const auto back =
-        renderPreview(read.mesh, 0, cardSkin(), PreviewView{180, 0, 1, false}, size, size);
-    EXPECT_EQ(hue(at(back, 32, 32)), "b");
-    EXPECT_EQ(at(back, 1, 62), kPreviewBackground);
     // Seen from above, the card is an edge: little but background.
     const auto above =
         renderPreview(read.mesh, 0, cardSkin(), PreviewView{0, 90, 1, true}, size, size);
