@@ -68,7 +68,7 @@ void PreviewSurface::mouseMoveEvent(QMouseEvent* event) {
 }
 
 void PreviewSurface::wheelEvent(QWheelEvent* event) {
-    const int steps = event->angleDelta().y() / 120;
+    const double steps = event->angleDelta().y() / 120.0;
     if (onZoom && steps != 0) onZoom(steps);
     event->accept();
 }
@@ -106,7 +106,7 @@ void ModelPreviewWindow::buildControls() {
         view_.pitch = std::clamp(view_.pitch + pitch, -89.0, 89.0);
         draw();
     };
-    surface_->onZoom = [this](int steps) {
+    surface_->onZoom = [this](double steps) {
         view_.zoom = std::clamp(view_.zoom * std::pow(1.15, steps), 0.25, 8.0);
         draw();
     };

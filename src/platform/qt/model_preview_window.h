@@ -36,7 +36,7 @@ public:
     void showText(const QString& text);
     // Told of every turn (degrees) and zoom step the user makes.
     std::function<void(double yaw, double pitch)> onTurn;
-    std::function<void(int steps)> onZoom;
+    std::function<void(double steps)> onZoom; // notches of a wheel; a touchpad gives parts
     // Told when the picture must be drawn anew at the surface's size.
     std::function<void()> onResized;
 
