@@ -78,7 +78,7 @@ void editorSkinTexture(const FrmMain& frm, SkinTexture& skin) {
     for (std::size_t k = 0; k < count; ++k) {
         const int16_t index = grid[k];
         // Only the palette's 256 colours reach a saved skin; any other index shows black.
-        skin.px[k] = index >= 0 && index < 256 ? colours[index] : 0;
+        skin.px[k] = static_cast<uint16_t>(index) < 256 ? colours[index] : 0;
     }
 }
 

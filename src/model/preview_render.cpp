@@ -46,11 +46,11 @@ double lightOf(const Vec& normal) {
     return 0.35 + 0.65 * std::abs(dot(normal, light));
 }
 
-// The light in 1/256ths, so that a channel takes one multiply.
+// The light in 256ths (rounded down), red and blue in one multiply and green in another:
+// a channel times at most 256 fits the 16 bits its neighbour leaves it.
 uint32_t shade(uint32_t c, double light) {
-    const auto l = static_cast<uint32_t>(std::clamp(light, 0.0, 1.0) * 256); // a 256th less at most
-    auto part = [l](uint32_t v) { return std::min<uint32_t>(255, (v * l + 128) >> 8); };
-    return part(c & 0xFF) | part((c >> 8) & 0xFF) << 8 | part((c >> 16) & 0xFF) << 16;
+    const auto l = static_cast<uint32_t>(std::clamp(light, 0.0, 1.0) * 256);
+    return (((c & 0xFF00FFu) * l >> 8) & 0xFF00FFu) | (((c & 0x00FF00u) * l >> 8) & 0x00FF00u);
 }
 
 uint32_t texel(const SkinTexture& skin, double u, double v) {
@@ -69,7 +69,30 @@ struct Target {
     int width, height;
     std::vector<uint32_t>& px;
     std::vector<float>& depth; // 1 / distance; larger is nearer
+    PreviewBuffers::Box& drawn;
 };
+
+// The buffers at width x height, background and nothing near: where the last picture of
+// the same size drew is all that needs clearing.
+void clearBuffers(PreviewBuffers& b, int width, int height, std::size_t pixels) {
+    if (b.width == width && b.height == height && b.px.size() == pixels &&
+        b.depth.size() == pixels) {
+        for (int y = b.drawn.y0; y <= b.drawn.y1; ++y) {
+            const std::size_t row = static_cast<std::size_t>(y) * static_cast<std::size_t>(width);
+            std::fill(b.px.begin() + static_cast<std::ptrdiff_t>(row + b.drawn.x0),
+                      b.px.begin() + static_cast<std::ptrdiff_t>(row + b.drawn.x1 + 1),
+                      kPreviewBackground);
+            std::fill(b.depth.begin() + static_cast<std::ptrdiff_t>(row + b.drawn.x0),
+                      b.depth.begin() + static_cast<std::ptrdiff_t>(row + b.drawn.x1 + 1), 0.0F);
+        }
+    } else {
+        b.px.assign(pixels, kPreviewBackground);
+        b.depth.assign(pixels, 0.0F);
+    }
+    b.width = width;
+    b.height = height;
+    b.drawn = {};
+}
 
 // Fills the triangle's pixels whose centres it covers, nearer than what stands there. The
 // barycentric weights are edge functions stepped along each row rather than worked out
@@ -96,6 +119,12 @@ void fill(const Corner& a, const Corner& b, const Corner& c, bool flatLight, dou
     const int y0 = lowest(std::min({a.y, b.y, c.y}), t.height - 1);
     const int y1 = highest(std::max({a.y, b.y, c.y}), t.height - 1);
     if (x0 > x1 || y0 > y1) return;
+    if (t.drawn.x0 > t.drawn.x1) {
+        t.drawn = {x0, y0, x1, y1};
+    } else {
+        t.drawn = {std::min(t.drawn.x0, x0), std::min(t.drawn.y0, y0), std::max(t.drawn.x1, x1),
+                   std::max(t.drawn.y1, y1)};
+    }
     // Weight of a corner at (px, py): the opposite edge's function over the area; it grows
     // by dx along a row and by dy down a column.
     struct Edge {
@@ -106,8 +135,8 @@ void fill(const Corner& a, const Corner& b, const Corner& c, bool flatLight, dou
     const double span = x1 - x0 + 1;
     auto steps = [span](double w0, double perPixel) {
         const double n = std::clamp(w0 * perPixel, -span - 1, span + 1);
-        const auto whole = static_cast<int>(n); // towards zero
-        return n < whole ? whole - 1 : whole;   // floor
+        const auto whole = static_cast<int>(n);     // towards zero
+        return whole - static_cast<int>(n < whole); // floor, without a branch
     };
     auto edge = [&](const Corner& p, const Corner& q) {
         const double dx = (p.y - q.y) / area, dy = (q.x - p.x) / area;
@@ -120,6 +149,14 @@ void fill(const Corner& a, const Corner& b, const Corner& c, bool flatLight, dou
     const Edge ec{-ea.dx - eb.dx, -ea.dy - eb.dy, 1 - ea.at0 - eb.at0};
     const double ldw = flatLight ? 0 : 1;
     const Edge edges[3] = {ea, eb, ec};
+    // The change of each interpolated value from one pixel of a row to the next.
+    struct Step {
+        float w, uw, vw, lw;
+    };
+    const Step step{static_cast<float>(ea.dx * a.w + eb.dx * b.w + ec.dx * c.w),
+                    static_cast<float>(ea.dx * a.uw + eb.dx * b.uw + ec.dx * c.uw),
+                    static_cast<float>(ea.dx * a.vw + eb.dx * b.vw + ec.dx * c.vw),
+                    static_cast<float>(ea.dx * a.lw + eb.dx * b.lw + ec.dx * c.lw)};
     // 1 / dx once a triangle rather than a division per edge and row.
     double perPixel[3];
     for (std::size_t k = 0; k < 3; ++k)
@@ -144,18 +181,22 @@ void fill(const Corner& a, const Corner& b, const Corner& c, bool flatLight, dou
         double wb = eb.at0 + (y - y0) * eb.dy + (first - x0) * eb.dx;
         std::size_t at = static_cast<std::size_t>(y) * static_cast<std::size_t>(t.width) +
                          static_cast<std::size_t>(first);
-        for (int x = first; x <= last; ++x, ++at, wa += ea.dx, wb += eb.dx) {
-            const double wc = 1 - wa - wb;
-            if (wa < 0 || wb < 0 || wc < 0) continue;
-            const double w = wa * a.w + wb * b.w + wc * c.w;
+        // What interpolates straight on the screen is stepped along the row.
+        const double wc0 = 1 - wa - wb;
+        // In single precision from here: a row is short, and the depth is kept so anyway.
+        auto single = [](double v) { return static_cast<float>(v); };
+        float w = single(wa * a.w + wb * b.w + wc0 * c.w),
+              uw = single(wa * a.uw + wb * b.uw + wc0 * c.uw),
+              vw = single(wa * a.vw + wb * b.vw + wc0 * c.vw),
+              lw = single(wa * a.lw + wb * b.lw + wc0 * c.lw);
+        for (int x = first; x <= last; ++x, ++at, wa += ea.dx, wb += eb.dx, w += step.w,
+                 uw += step.uw, vw += step.vw, lw += step.lw) {
+            if (wa < 0 || wb < 0 || 1 - wa - wb < 0) continue;
             if (w <= t.depth[at]) continue;
-            t.depth[at] = static_cast<float>(w);
-            const double toWorld = 1 / w;
-            const double u = (wa * a.uw + wb * b.uw + wc * c.uw) * toWorld;
-            const double v = (wa * a.vw + wb * b.vw + wc * c.vw) * toWorld;
-            const double light =
-                flatLight ? faceLight : (wa * a.lw + wb * b.lw + wc * c.lw) * toWorld * ldw;
-            t.px[at] = shade(texel(skin, u, v), light);
+            t.depth[at] = w;
+            const float toWorld = 1 / w;
+            const double light = flatLight ? faceLight : lw * toWorld * ldw;
+            t.px[at] = shade(texel(skin, uw * toWorld, vw * toWorld), light);
         }
     }
 }
@@ -175,7 +216,7 @@ void renderPreview(const Md2Mesh& mesh, std::size_t frame, const SkinTexture& sk
     height = std::max(height, 0);
     const std::size_t pixels = static_cast<std::size_t>(width) * static_cast<std::size_t>(height);
     std::vector<uint32_t>& out = buffers.px;
-    out.assign(pixels, kPreviewBackground);
+    clearBuffers(buffers, width, height, pixels);
     if (frame >= mesh.frames.size() || pixels == 0) return;
     const Md2Mesh::Frame& f = mesh.frames[frame];
     // A mesh made by hand may name corners it doesn't have: nothing is drawn of it.
@@ -259,8 +300,7 @@ void renderPreview(const Md2Mesh& mesh, std::size_t frame, const SkinTexture& sk
                     normals[corner.vertex][k] += n[k];
         }
 
-    buffers.depth.assign(pixels, 0.0F);
-    Target target{width, height, out, buffers.depth};
+    Target target{width, height, out, buffers.depth, buffers.drawn};
     std::vector<double> vertexLight(normals.size());
     for (std::size_t v = 0; v < normals.size(); ++v)
         vertexLight[v] = lightOf(unit(normals[v]));

@@ -37,6 +37,12 @@ std::vector<uint32_t> renderPreview(const Md2Mesh& mesh, std::size_t frame, cons
 struct PreviewBuffers {
     std::vector<uint32_t> px; // the picture
     std::vector<float> depth;
+    // Where the last picture drew, so that the next clears no more than that.
+    struct Box {
+        int x0 = 0, y0 = 0, x1 = -1, y1 = -1;
+    };
+    int width = 0, height = 0;
+    Box drawn;
 };
 void renderPreview(const Md2Mesh& mesh, std::size_t frame, const SkinTexture& skin,
                    const PreviewView& view, int width, int height, PreviewBuffers& buffers);

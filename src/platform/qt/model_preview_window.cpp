@@ -83,7 +83,6 @@ ModelPreviewWindow::ModelPreviewWindow(tavrin::FrmMain& frm, QWidget* parent)
     setObjectName("modelPreview");
     setWindowTitle("Model Preview");
     resize(640, 600);
-    view_.zoom = 1.3; // a standing figure fills the height; the wheel takes it back
     buildControls();
 
     animation_.setInterval(kAnimationMs);
