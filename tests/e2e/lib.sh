@@ -31,15 +31,9 @@ start_tavrin() {
     TAVRIN_PID=$!
 }
 
-# Waits up to 20 seconds for a window whose title matches exactly and prints its id. The
-# search is asked again when it gives up early: a window that goes away while it looks
-# (a dialog closing) ends it with an X error.
+# Waits for a window whose title matches exactly and prints its id.
 wait_window() {
-    id="" end=$(($(date +%s) + 20))
-    while [ -z "$id" ] && [ "$(date +%s)" -lt "$end" ]; do
-        id=$(timeout 20 xdotool search --sync --onlyvisible --name "^$1\$" 2>/dev/null | tail -1) || true
-        [ -n "$id" ] || sleep 0.2
-    done
+    id=$(timeout 20 xdotool search --sync --onlyvisible --name "^$1\$" 2>/dev/null | tail -1) || true
     [ -n "$id" ] || fail "no window titled '$1'"
     echo "$id"
 }
