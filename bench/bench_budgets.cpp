@@ -24,6 +24,8 @@ const std::vector<Budget>& budgets() {
         {"Sharpen 1024x1024 box", "sharpen/path", "sharpen/baseline", 15, false},
         {"Sharpen, box 2000 past the skin", "sharpen_far/path", "sharpen_far/baseline", 2, false},
         {"band move over 1000x1000", "band_move/path", "band_move/baseline", 0.05, false},
+        {"model preview 512x512, largest real model", "preview/path", "canvas_region/path", 1,
+         false},
     };
     return all;
 }

@@ -1,5 +1,7 @@
 #include "fuzz_roads.h"
 
+#include "model/model_preview.h"
+
 #include <algorithm>
 #include <cmath>
 #include <fstream>
@@ -63,6 +65,11 @@ void importWireframe(FrmMain& frm, platform::ScriptedHost& host, const Input& in
         std::ldexp(1.0, in.size > 0 ? in.data[0] % 7 - 3 : 0); // the zoom tool's 1/8 to 8
     host.answerOpen(in.path);
     frm.wF_Click();
+    // The model preview of what was read: its last frame, turned by the input's second byte.
+    const auto model = frm.previewModel();
+    if (model && model->read.problem.empty())
+        renderPreview(model->read.mesh, model->read.mesh.frames.size() - 1, editorSkinTexture(frm),
+                      PreviewView{in.size > 1 ? in.data[1] * 1.5 : 0, 20, 1, true}, 24, 24);
 }
 
 } // namespace

@@ -2,6 +2,7 @@
 #include "editor/frm_main.h"
 #include "platform/qt/dispatch.h"
 #include "platform/qt/form_window.h"
+#include "platform/qt/model_preview_window.h"
 #include "platform/qt/qt_host.h"
 #include "shell/frm_splash.h"
 
@@ -16,10 +17,16 @@ int main(int argc, char** argv) {
 
     platform::qt::QtHost host;
     std::unique_ptr<tavrin::FrmMain> frmMain;
+    // Made at its first opening; goes before the editor it shows.
+    std::unique_ptr<platform::qt::ModelPreviewWindow> preview;
 
     auto showMain = [&] {
         frmMain = std::make_unique<tavrin::FrmMain>(host);
         frmMain->Form_Load();
+        frmMain->showModelPreview = [&] {
+            if (!preview) preview = std::make_unique<platform::qt::ModelPreviewWindow>(*frmMain);
+            preview->open();
+        };
         host.ShowForm(*frmMain);
         if (auto* window = host.windowFor(*frmMain)) {
             window->onClose = [&] {
@@ -45,6 +52,7 @@ int main(int argc, char** argv) {
     });
 
     int status = app.exec();
+    preview.reset();
     host.closeAll();
     return status;
 }

@@ -23,11 +23,20 @@ const std::vector<Command>& commands() {
     return table;
 }
 
+// Commands added to the language since (the "Additions" of docs/tavrin-script.md).
+const std::vector<Command>& additions() {
+    static const std::vector<Command> table = {
+        {"preview", previewCommand},
+    };
+    return table;
+}
+
 } // namespace
 
 CommandFn findCommand(const std::string& name) {
-    for (const Command& c : commands())
-        if (name == c.name) return c.run;
+    for (const auto* table : {&commands(), &additions()})
+        for (const Command& c : *table)
+            if (name == c.name) return c.run;
     return nullptr;
 }
 

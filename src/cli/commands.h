@@ -32,5 +32,7 @@ void printCommand(Session& s, Args& a);
 void boundsCommand(Session& s, Args& a);
 // dumps.cpp
 void dumpCommand(Session& s, Args& a);
+// preview_command.cpp
+void previewCommand(Session& s, Args& a);
 
 } // namespace tavrin::cli

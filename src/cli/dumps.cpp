@@ -1,23 +1,16 @@
 // `dump grid` and `dump picture`: the skin's indices and a picture's pixels as files.
 #include "cli/commands.h"
+#include "cli/ppm_file.h"
 #include "cli/script_error.h"
 #include "cli/targets.h"
 
 #include <cstdint>
-#include <fstream>
 #include <string>
 #include <vector>
 
 namespace tavrin::cli {
 
 namespace {
-
-void writeFile(const std::string& path, const std::string& bytes) {
-    std::ofstream out(path, std::ios::binary | std::ios::trunc);
-    out.write(bytes.data(), static_cast<std::streamsize>(bytes.size()));
-    out.close();
-    if (!out) throw DriverFailure("can't write " + path);
-}
 
 // Skin_Grid from its lower to its upper bound, little-endian 16-bit; nothing when unallocated.
 void dumpGrid(Session& s, Args& a) {
@@ -44,14 +37,7 @@ void dumpPicture(Session& s, Args& a) {
     const int w = box.innerWidth(), h = box.innerHeight();
     std::vector<uint32_t> px(static_cast<std::size_t>(w) * static_cast<std::size_t>(h));
     if (!px.empty()) box.render(platform::PixelRect{0, 0, w, h}, px.data(), w);
-    std::string bytes = "P6\n" + std::to_string(w) + " " + std::to_string(h) + "\n255\n";
-    bytes.reserve(bytes.size() + px.size() * 3);
-    for (uint32_t c : px) {
-        bytes += static_cast<char>(c & 0xFF);         // red
-        bytes += static_cast<char>((c >> 8) & 0xFF);  // green
-        bytes += static_cast<char>((c >> 16) & 0xFF); // blue
-    }
-    writeFile(path, bytes);
+    writePpm(path, w, h, px);
     s.out() << "dump picture " << w << ' ' << h << '\n';
 }
 

@@ -10,6 +10,7 @@
 #include "platform/vb_files.h"
 
 #include <cstdint>
+#include <functional>
 #include <memory>
 #include <string>
 
@@ -27,6 +28,8 @@ struct PassArea;
 struct PassPlan;
 enum class Kernel : int;
 } // namespace filters
+
+struct PreviewModel; // model/model_preview.h
 
 class FrmMain : public MainControls {
 public:
@@ -65,6 +68,12 @@ public:
 
     // The files of the run, opened by number.
     vb::FileTable Files;
+
+    // ---------------- model/model_preview.cpp ----------------
+    // The last model New Skin or the wireframe import read, whole, or nullptr.
+    std::shared_ptr<const PreviewModel> previewModel() const { return previewModel_; }
+    // Opens the model preview's window; the program sets it (the driver has no window).
+    std::function<void()> showModelPreview;
 
 private:
     // ---------------- shell/command_surface.cpp ----------------
@@ -125,6 +134,8 @@ private:
     void dropModelTables();
     // The check marks of "&Wire Frame" and of the popup's item.
     void markWireShown(bool shown);
+    // File_Name read whole for the model preview; what the editor reads is untouched.
+    void keepPreviewModel();
 
     // ---------------- editor/undo.cpp ----------------
     // The grid half of the snapshot that a press on the canvas takes.
@@ -216,6 +227,8 @@ private:
     // form knows the cache only by name.
     std::shared_ptr<MatchCache> matchCache_;
     std::shared_ptr<FrmPrint> frmPrint_; // shared for the same reason
+    // Read by keepPreviewModel at each model the readers open.
+    std::shared_ptr<const PreviewModel> previewModel_;
 };
 
 } // namespace tavrin

@@ -157,6 +157,7 @@ public:
     TAVRIN_CONTROL(MenuItem, s3);
     TAVRIN_CONTROL(MenuItem, wF);
     TAVRIN_CONTROL(MenuItem, UCW);
+    TAVRIN_CONTROL(MenuItem, mPreview); // the model preview, ours
     TAVRIN_CONTROL(MenuItem, tools);
     TAVRIN_CONTROL(MenuItem, mZoom);
     TAVRIN_CONTROL(MenuItem, Eye);

@@ -2,6 +2,7 @@
 // (model/md2_format.h). Only the header and the two lumps are fetched from the file.
 #include "editor/frm_main.h"
 #include "model/md2_format.h"
+#include "model/model_preview.h"
 #include "platform/vb_numeric.h"
 
 #include <vector>
@@ -13,6 +14,7 @@ void FrmMain::readModel(bool sizePicture1) {
     UV_Table.ReDim(0, kMd2LastRecord);
     Wire_Loaded = 1;
     Files.OpenForRead(1, File_Name);
+    keepPreviewModel(); // never fails: a model it can't show says why in the preview
     // A failed reading closes its file, so that the next one can open it again.
     try {
         std::vector<uint8_t> headerBytes, stBytes, trisBytes;

@@ -45,6 +45,7 @@ const std::vector<MenuRow>& menuTable() {
         {&F::s3,            1, "-",                                  "",       off, on,  on,  nullptr},
         {&F::wF,            1, "&Wire Frame",                        "Ctrl+W", off, on,  on,  &F::wF_Click},
         {&F::UCW,           1, "&Unload Current Wireframe",          "",       off, on,  on,  &F::UCW_Click},
+        {&F::mPreview,      1, "Model Pre&view",                     "",       off, on,  on,  &F::mPreview_Click},
         {&F::tools,         0, "&Tools",                             "",       off, on,  on,  nullptr},
         {&F::mZoom,         1, "&Zoom",                              "Ctrl+Q", off, on,  on,  &F::mZoom_Click},
         {&F::Eye,           1, "&Eye-Dropper",                       "Ctrl+E", off, on,  on,  &F::Eye_Click},

@@ -112,6 +112,22 @@ navy_top() {
         awk -F'[,:]' '/#000080/ { print $2; exit }'
 }
 
+# Picks palette cell 208 (column 0, row 13: pure green in the game's palette) and the
+# pencil, and sets PANEL_LEFT and PANEL_TOP. The palette stands at the window's right
+# edge: its left in pixels is (width in twips - 3275) / 15, and its cells start 13 pixels
+# in and 27 below its top.
+pick_green_pencil() {
+    width=$(xdotool getdisplaygeometry | cut -d' ' -f1)
+    PANEL_LEFT=$(( (width * 15 - 3275 + 7) / 15 ))
+    PANEL_TOP=$(navy_top $((PANEL_LEFT + 40)))
+    [ -n "$PANEL_TOP" ] || fail "the palette is not on the screen"
+    xdotool mousemove $((PANEL_LEFT + 13 + 5)) $((PANEL_TOP + 27 + 13 * 11 + 5)) click 1
+    sleep 0.3
+    open_menu "$1" 140                       # Tools
+    xdotool key Down Down Down Return        # Pixel Edit
+    sleep 0.3
+}
+
 shot() {
     [ -n "${TAVRIN_SCREENSHOTS:-}" ] || return 0
     xwd -root -silent | convert xwd:- "$TAVRIN_SCREENSHOTS/$1"

@@ -16,19 +16,8 @@ main=$(press_ok)
 
 open_skin "$main" "$WORK/skin.pcx"
 
-# The palette stands at the window's right edge: its left in pixels is
-# (width in twips - 3275) / 15, and its cells start 13 pixels in and 27 below its top.
-width=$(xdotool getdisplaygeometry | cut -d' ' -f1)
-panel_left=$(( (width * 15 - 3275 + 7) / 15 ))
-panel_top=$(navy_top $((panel_left + 40)))
-[ -n "$panel_top" ] || fail "the palette is not on the screen"
-# Cell 208, column 0 and row 13: pure green in the game's palette.
-xdotool mousemove $((panel_left + 13 + 5)) $((panel_top + 27 + 13 * 11 + 5)) click 1
-sleep 0.3
-
-open_menu "$main" 140                    # Tools
-xdotool key Down Down Down Return        # Pixel Edit
-sleep 0.3
+pick_green_pencil "$main"
+panel_top=$PANEL_TOP
 
 # The canvas is centred on the window's working area.
 surface_top=$((panel_top - 510 / 15))

@@ -79,6 +79,26 @@ struct Md2 {
     }
 };
 
+// A card of two faces a little apart, two frames alike: the front (x = 128) maps the top
+// left 2 x 2 pixels of a 4 x 4 skin, the back (x = 120) the bottom right ones; y runs to
+// the front viewer's right, z up. Each face's corners run clockwise seen from its side.
+inline Md2 previewCard() {
+    Md2 m;
+    m.skinWidth = m.skinHeight = 4;
+    m.st = {{0, 0}, {2, 0}, {0, 2}, {2, 2}, {2, 2}, {4, 2}, {2, 4}, {4, 4}};
+    // Vertices: front top left (y 0, z 255), front top right, front bottom left, front
+    // bottom right, then the same four at the back.
+    m.xyz = {{0, 1, 2}, {1, 3, 2}, {4, 6, 5}, {5, 6, 7}};
+    m.tris = {{0, 1, 2}, {1, 3, 2}, {4, 6, 5}, {5, 6, 7}};
+    Md2::Frame f;
+    f.name = "stand01";
+    f.vertices = {{128, 0, 255}, {128, 255, 255}, {128, 0, 0}, {128, 255, 0},
+                  {120, 0, 255}, {120, 255, 255}, {120, 0, 0}, {120, 255, 0}};
+    m.frames = {f, f};
+    m.frames[1].name = "run1";
+    return m;
+}
+
 inline const std::string kLoadProblem =
     "There was a problem loading the file. Check the filename and/or format.";
 

@@ -7,63 +7,16 @@
 namespace tavrin::test {
 namespace {
 
-// A card of two faces a little apart: the front (x = 128) maps the top left 2 x 2 texels
-// of the skin, the back (x = 120) the bottom right ones. Skin texels: red, green, yellow,
-// cyan in the top left 2 x 2, blue in the bottom right 2 x 2, grey elsewhere.
-Md2 card() {
-    Md2 m;
-    m.skinWidth = m.skinHeight = 4;
-    m.st = {{0, 0}, {2, 0}, {0, 2}, {2, 2}, {2, 2}, {4, 2}, {2, 4}, {4, 4}};
-    // Vertices: front top left (y 0, z 255), front top right, front bottom left, front
-    // bottom right, then the same four at the back.
-    m.xyz = {{0, 1, 2}, {1, 3, 2}, {4, 5, 6}, {5, 7, 6}};
-    m.tris = {{0, 1, 2}, {1, 3, 2}, {4, 5, 6}, {5, 7, 6}};
-    Md2::Frame f;
-    f.name = "stand01";
-    f.vertices = {{128, 0, 255}, {128, 255, 255}, {128, 0, 0}, {128, 255, 0},
-                  {120, 0, 255}, {120, 255, 255}, {120, 0, 0}, {120, 255, 0}};
-    m.frames = {f, f};
-    m.frames[1].name = "run1";
-    return m;
-}
+SkinTexture cardSkin() { return SkinTexture{4, 4, std::vector<uint32_t>(16, 0x808080)}; }
 
-SkinTexture cardSkin() {
-    SkinTexture s{4, 4, std::vector<uint32_t>(16, 0x808080)};
-    s.px[0] = 0x0000FF, s.px[1] = 0x00FF00, s.px[4] = 0x00FFFF, s.px[5] = 0xFFFF00;
-    s.px[10] = s.px[11] = s.px[14] = s.px[15] = 0xFF0000;
-    return s;
-}
-
-// Which of the skin's pure colours a shaded pixel is: the channels that are lit.
-std::string hue(uint32_t c) {
-    std::string h;
-    if ((c & 0xFF) > 40) h += "r";
-    if (((c >> 8) & 0xFF) > 40) h += "g";
-    if (((c >> 16) & 0xFF) > 40) h += "b";
-    return h;
-}
-
-TEST(ModelPreview, FacesShowTheTexelsTheirCoordinatesMapAndTurningShowsTheBack) {
-    const Md2MeshRead read = readMd2Mesh(card().bytes());
+// Which texel each face shows, and the back after a half turn, is the driver's test
+// (cli/model_preview_test.cpp), through the editor's skin; here what no skin decides.
+TEST(ModelPreview, AnEdgeOnCardOrAFrameThereIsntDrawsLittleOrNothing) {
+    const Md2MeshRead read = readMd2Mesh(previewCard().bytes());
     ASSERT_EQ(read.problem, "");
     ASSERT_EQ(read.mesh.frames.size(), 2u);
     EXPECT_EQ(read.mesh.frames[1].name, "run1");
-    EXPECT_EQ(frameGroup("run1"), "run");
     const int size = 64;
-    auto at = [size](const std::vector<uint32_t>& px, int x, int y) {
-        return px[static_cast<std::size_t>(y * size + x)];
-    };
-    const auto front = renderPreview(read.mesh, 0, cardSkin(), PreviewView{}, size, size);
-    // The viewer's right is the model's +y, up its +z: the front's texel (0, 0) top left.
-    EXPECT_EQ(hue(at(front, 24, 24)), "r");
-    EXPECT_EQ(hue(at(front, 40, 24)), "g");
-    EXPECT_EQ(hue(at(front, 24, 40)), "rg");
-    EXPECT_EQ(hue(at(front, 40, 40)), "gb");
-    EXPECT_EQ(at(front, 1, 1), kPreviewBackground);
-    const auto back =
-        renderPreview(read.mesh, 0, cardSkin(), PreviewView{180, 0, 1, false}, size, size);
-    EXPECT_EQ(hue(at(back, 32, 32)), "b");
-    EXPECT_EQ(at(back, 1, 62), kPreviewBackground);
     // Seen from above, the card is an edge: little but background.
     const auto above =
         renderPreview(read.mesh, 0, cardSkin(), PreviewView{0, 90, 1, true}, size, size);
@@ -79,14 +32,14 @@ TEST(ModelPreview, ADamagedModelSaysWhyInsteadOfShowingPart) {
         b.resize(b.size() - cut);
         return readMd2Mesh(b).problem;
     };
-    Md2 m = card();
+    Md2 m = previewCard();
     EXPECT_NE(problem(m, 1), ""); // the last frame cut short
     m.xyz[3] = {5, 7, 8};         // a vertex past the eight there are
     EXPECT_NE(problem(m), "");
-    m = card();
+    m = previewCard();
     m.tris[0] = {0, 1, 9};
     EXPECT_NE(problem(m), "");
-    m = card();
+    m = previewCard();
     m.numTris = 1 << 30; // a count no file could hold asks for nothing
     EXPECT_NE(problem(m), "");
     EXPECT_NE(readMd2Mesh(Bytes(40, 0)).problem, "");
