@@ -82,6 +82,7 @@ void FrmMain::buildCommandSurface() {
     };
     Slider1.Change = [this] { Slider1_Change(); };
     Text7.KeyPress = [this](int16_t& key) { Text7_KeyPress(key); };
+    wireBarDrag();
 }
 
 } // namespace tavrin
