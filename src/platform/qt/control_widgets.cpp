@@ -2,6 +2,7 @@
 
 #include "platform/picture_box.h"
 #include "platform/qt/dispatch.h"
+#include "platform/qt/mouse_state.h"
 #include "platform/qt/picture_widget.h"
 
 #include <QApplication>
@@ -10,6 +11,7 @@
 #include <QLabel>
 #include <QLineEdit>
 #include <QListWidget>
+#include <QMouseEvent>
 #include <QProgressBar>
 #include <QPushButton>
 #include <QSlider>
@@ -61,7 +63,7 @@ bool isTitleBar(const std::string& name) {
 class PanelWidget : public QFrame {
 public:
     PanelWidget(platform::Panel& panel, QWidget* parent)
-        : QFrame(parent), label_(new QLabel(this)) {
+        : QFrame(parent), panel_(panel), label_(new QLabel(this)) {
         setFrameStyle(QFrame::Panel | QFrame::Raised);
         setLineWidth(1);
         setAutoFillBackground(true);
@@ -92,7 +94,28 @@ public:
         }
     }
 
+protected:
+    // A grip's press and release, in twips from the panel's corner.
+    void mousePressEvent(QMouseEvent* event) override {
+        send(panel_.MouseDown, buttonBits(event->button()), event);
+    }
+    void mouseReleaseEvent(QMouseEvent* event) override {
+        send(panel_.MouseUp, buttonBits(event->button()), event);
+    }
+
 private:
+    void send(const MouseHandler& handler, int16_t button, QMouseEvent* event) {
+        if (!handler) { // not a grip: the panel under it may want the press
+            event->ignore();
+            return;
+        }
+        const auto x = static_cast<float>(event->position().x() * 15.0);
+        const auto y = static_cast<float>(event->position().y() * 15.0);
+        const int16_t shift = shiftState(event->modifiers());
+        runEvent([&] { handler(button, shift, x, y); });
+    }
+
+    platform::Panel& panel_;
     QLabel* label_;
 };
 

@@ -2,6 +2,7 @@
 
 #include "platform/qt/control_widgets.h"
 #include "platform/qt/dispatch.h"
+#include "platform/qt/floating_panels.h"
 #include "platform/qt/picture_widget.h"
 
 #include <QAction>
@@ -26,6 +27,7 @@ FormWindow::FormWindow(Form& form) : form_(form), surface_(new QWidget(this)) {
     setWindowTitle(QString::fromStdString(form_.Caption.get()));
     watch(form_, [this] { setWindowTitle(QString::fromStdString(form_.Caption.get())); });
     followForm();
+    new FloatingPanels(*this, surface_);
     registerWindow(this);
 }
 
