@@ -67,18 +67,22 @@ public:
         setFrameStyle(QFrame::Panel | QFrame::Raised);
         setLineWidth(1);
         setAutoFillBackground(true);
-        if (isTitleBar(panel.name())) {
-            QPalette pal = palette();
+        QPalette pal = palette();
+        // Its own face, whatever back colour the form takes.
+        pal.setColor(QPalette::Window, pal.color(QPalette::Window));
+        const bool title = isTitleBar(panel.name());
+        if (title) {
             pal.setColor(QPalette::Window, QColor(0, 0, 128));
             pal.setColor(QPalette::WindowText, Qt::white);
-            setPalette(pal);
             QFont f = label_->font();
             f.setBold(true);
             label_->setFont(f);
         }
+        setPalette(pal);
         label_->setAttribute(Qt::WA_TransparentForMouseEvents);
         auto* layout = new QVBoxLayout(this);
-        layout->setContentsMargins(3, 0, 3, 0);
+        // A title's caption keeps clear of the close button at its right end.
+        layout->setContentsMargins(3, 0, title ? 20 : 3, 0);
         layout->addWidget(label_);
         layout->addStretch();
         label_->setObjectName("caption");

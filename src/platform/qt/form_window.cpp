@@ -31,18 +31,21 @@ FormWindow::FormWindow(Form& form) : form_(form), surface_(new QWidget(this)) {
     registerWindow(this);
 }
 
-// A back colour of the form's own (not one of the system's), the form's clicks on its
-// free area, and a maximise while it is shown.
+// A back colour of the form's own (not one of the system's) as it is and whenever it
+// changes, the form's clicks on its free area, and a maximise while it is shown.
 void FormWindow::followForm() {
-    const auto back = static_cast<uint32_t>(form_.BackColor.get());
-    if ((back & 0x80000000u) == 0) {
+    const auto showBackColor = [this] {
+        const auto back = static_cast<uint32_t>(form_.BackColor.get());
+        if ((back & 0x80000000u) != 0) return;
         QPalette pal = surface_->palette();
         pal.setColor(QPalette::Window,
                      QColor(back & 0xFF, (back >> 8) & 0xFF, (back >> 16) & 0xFF));
         surface_->setPalette(pal);
-    }
+    };
+    showBackColor();
     surface_->installEventFilter(this);
-    observers_.emplace_back(&form_, form_.observe([this](const PropBase* p) {
+    observers_.emplace_back(&form_, form_.observe([this, showBackColor](const PropBase* p) {
+        if (p == &form_.BackColor) showBackColor();
         if (p != &form_.WindowState || !isVisible()) return;
         applyWindowState();
         // Read at once by whoever maximised it: the size the window takes, not a later one.
