@@ -110,6 +110,7 @@ public:
         : Control(form, std::move(name), ControlKind::Button) {}
     Prop<std::string> Caption{this, "Caption"};
     Prop<std::string> ToolTipText{this, "ToolTipText"};
+    Prop<std::string> Picture{this, "Picture"}; // the name of its image, or empty
 };
 
 class Label : public Control {
@@ -188,7 +189,8 @@ public:
     struct Button {
         std::string Key; // empty for a separator
         std::string ToolTipText;
-        int Value = 0; // 1 pressed
+        int Value = 0;     // 1 pressed
+        std::string Image; // the name of its image in the window's image list
     };
     std::vector<Button> Buttons;
     Button* find(const std::string& key);

@@ -1,11 +1,11 @@
 #include "platform/qt/control_widgets.h"
 
 #include "platform/picture_box.h"
+#include "platform/qt/button_widget.h"
 #include "platform/qt/dispatch.h"
 #include "platform/qt/mouse_state.h"
 #include "platform/qt/picture_widget.h"
 
-#include <QApplication>
 #include <QFrame>
 #include <QKeyEvent>
 #include <QLabel>
@@ -13,9 +13,7 @@
 #include <QListWidget>
 #include <QMouseEvent>
 #include <QProgressBar>
-#include <QPushButton>
 #include <QSlider>
-#include <QStyle>
 #include <QVBoxLayout>
 
 #include <map>
@@ -25,34 +23,6 @@ namespace platform::qt {
 namespace {
 
 QString qs(const std::string& s) { return QString::fromStdString(s); }
-
-// The tool buttons carry a picture and a tool tip but no caption; until they have
-// drawn icons, a short word stands in for the picture.
-QString toolGlyph(const std::string& toolTip) {
-    static const std::map<std::string, QString> glyphs = {
-        {"Pencil (Pixel)", "Pen"},
-        {"Paint-Brush ", "Brush"},
-        {"Air-Brush", "Air"},
-        {"Blur", "Blur"},
-        {"Mask/Color Replace", "Mask"},
-        {"Eye-Dropper", "Eye"},
-        {"Rectangle", "Rect"},
-        {"Filled Rectangle", "Fill"},
-        {"Zoom", "Zoom"},
-        {"Pan Some", "500"},
-        {"Pan Alot", "5000"},
-        {"Line", "Line"},
-        {"Left", "\u25C0"},
-        {"Right", "\u25B6"},
-        {"Up", "\u25B2"},
-        {"Down", "\u25BC"},
-        {"Smudge", "Grad"},
-        {"Text", "Text"},
-        {"Close", "x"},
-    };
-    auto it = glyphs.find(toolTip);
-    return it == glyphs.end() ? QString() : it->second;
-}
 
 // Title bars of the floating bars look like a window's caption.
 bool isTitleBar(const std::string& name) {
@@ -159,12 +129,9 @@ QWidget* makeControlWidget(Control& control, QWidget* parent) {
     case ControlKind::Panel:
         w = new PanelWidget(static_cast<Panel&>(control), parent);
         break;
-    case ControlKind::Button: {
-        auto* b = new QPushButton(parent);
-        QObject::connect(b, &QPushButton::clicked, b, [&control] { runEvent(control.Click); });
-        w = b;
+    case ControlKind::Button:
+        w = new ButtonWidget(static_cast<CommandButton&>(control), parent);
         break;
-    }
     case ControlKind::Label:
         w = new QLabel(parent);
         break;
@@ -201,17 +168,7 @@ void updateControlWidget(Control& control, QWidget* widget) {
         static_cast<PanelWidget*>(widget)->setCaption(static_cast<Panel&>(control).Caption);
         break;
     case ControlKind::Button: {
-        auto& c = static_cast<CommandButton&>(control);
-        auto* b = static_cast<QPushButton*>(widget);
-        QString caption = qs(c.Caption);
-        if (caption.isEmpty()) {
-            caption = toolGlyph(c.ToolTipText);
-            QFont small = QApplication::font(b); // not b->font(): updates come often
-            small.setPointSizeF(small.pointSizeF() * 0.8);
-            b->setFont(small);
-        }
-        b->setText(caption);
-        b->setToolTip(qs(c.ToolTipText));
+        static_cast<ButtonWidget*>(widget)->follow();
         break;
     }
     case ControlKind::Label: {
@@ -257,17 +214,6 @@ void updateControlWidget(Control& control, QWidget* widget) {
     default:
         break;
     }
-}
-
-QIcon toolbarIcon(const std::string& key, QStyle* style) {
-    static const std::map<std::string, QStyle::StandardPixmap> icons = {
-        {"New", QStyle::SP_FileIcon},
-        {"Open", QStyle::SP_DialogOpenButton},
-        {"Save", QStyle::SP_DialogSaveButton},
-        {"Print", QStyle::SP_ComputerIcon},
-    };
-    auto it = icons.find(key);
-    return it == icons.end() ? QIcon() : style->standardIcon(it->second);
 }
 
 } // namespace platform::qt

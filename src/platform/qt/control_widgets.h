@@ -2,9 +2,6 @@
 // One widget for each kind of stock control, and how it follows its control.
 #include "platform/controls.h"
 
-#include <QIcon>
-
-class QStyle;
 class QWidget;
 
 namespace platform::qt {
@@ -14,7 +11,5 @@ namespace platform::qt {
 QWidget* makeControlWidget(Control& control, QWidget* parent);
 // Brings the widget's content (caption, text, items, value) up to the control's.
 void updateControlWidget(Control& control, QWidget* widget);
-// The picture on a tool bar button, by its key.
-QIcon toolbarIcon(const std::string& key, QStyle* style);
 
 } // namespace platform::qt

@@ -1,5 +1,6 @@
 #include "platform/qt/form_window.h"
 
+#include "platform/qt/button_widget.h"
 #include "platform/qt/control_widgets.h"
 #include "platform/qt/dispatch.h"
 #include "platform/qt/floating_panels.h"
@@ -183,13 +184,14 @@ void FormWindow::buildToolbar(Toolbar& bar) {
     auto* tb = addToolBar(QString::fromStdString(bar.name()));
     tb->setMovable(false);
     tb->setToolButtonStyle(Qt::ToolButtonTextBesideIcon);
+    tb->setIconSize(QSize(16, 16));
     tb->setObjectName(QString::fromStdString(bar.name()));
     for (const Toolbar::Button& b : bar.Buttons) {
         if (b.Key.empty()) {
             tb->addSeparator();
             continue;
         }
-        QAction* a = tb->addAction(toolbarIcon(b.Key, style()), QString::fromStdString(b.Key));
+        QAction* a = tb->addAction(pictureIcon(b.Image), QString::fromStdString(b.Key));
         a->setToolTip(QString::fromStdString(b.ToolTipText));
         a->setObjectName(QString::fromStdString(b.Key));
         const std::string key = b.Key;
