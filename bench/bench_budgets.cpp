@@ -16,6 +16,12 @@ const std::vector<Budget>& budgets() {
         {"first open 440x1024, fresh editor", "first_open/path", "first_open/baseline", 2, false,
          true},
         {"save 1024x1024 to disk", "save/path", "save/baseline", 3, false, true},
+        {"mouse move, zoom 8, Qt window", "mouse_move/path", "mouse_move/baseline", 3, false},
+        {"pencil stroke move, zoom 8, Qt window", "mouse_stroke/path", "mouse_stroke/baseline", 6,
+         false},
+        {"Sharpen 1024x1024 box", "sharpen/path", "sharpen/baseline", 15, false},
+        {"Sharpen, box 2000 past the skin", "sharpen_far/path", "sharpen_far/baseline", 2, false},
+        {"band move over 1000x1000", "band_move/path", "band_move/baseline", 0.05, false},
     };
     return all;
 }

@@ -1,5 +1,7 @@
 #include "bench_support.h"
 
+#include <benchmark/benchmark.h>
+
 #include <cstdio>
 #include <filesystem>
 #include <fstream>
@@ -21,8 +23,12 @@ fs::path programFolder() {
     return ec ? fs::current_path() : exe.parent_path();
 }
 
+// One for each editor: an editor made and dropped while another works (the benchmark's
+// skin is written on first use) takes only its own folder with it.
 std::string makeFolder() {
-    fs::path dir = programFolder() / ("bench-files-" + std::to_string(getpid()));
+    static int made = 0;
+    fs::path dir = programFolder() /
+                   ("bench-files-" + std::to_string(getpid()) + "-" + std::to_string(++made));
     fs::create_directories(dir);
     fs::copy_file(TAVRIN_PALETTE_FILE, dir / "Quake2.PAL", fs::copy_options::overwrite_existing);
     return dir.string();
@@ -109,6 +115,13 @@ void Editor::zoomIn(int presses) {
 }
 
 void Editor::choosePencil() { frm.pEdit_Click(); }
+
+void View::show() {
+    for (const platform::PixelRect& d :
+         box.takeDamage().intersect(platform::PixelRect{0, 0, 1920, 1080}))
+        box.render(d, buffer.data(), d.x1 - d.x0, platform::PixelOrder::Xrgb);
+    benchmark::DoNotOptimize(buffer.data());
+}
 
 namespace {
 

@@ -24,6 +24,14 @@ struct Editor {
     void choosePencil();
 };
 
+// What a view of a box does after an event: paints what changed since it last looked,
+// from the box's description, into a buffer as large as the canvas's visible part.
+struct View {
+    platform::PictureBox& box;
+    std::vector<uint32_t> buffer = std::vector<uint32_t>(1920 * 1080);
+    void show();
+};
+
 // A 1024 x 1024 PCX with the runs of a painted skin: a real skin repeated when the real
 // files are there, else patches of one colour broken by noise. Written once per run,
 // beside the program. Wider than the reader takes whole: its open ends in the failure
@@ -31,6 +39,11 @@ struct Editor {
 const std::string& bigSkinPath();
 // The same pixels 440 x 1024: a skin that opens whole.
 const std::string& tallSkinPath();
+
+// What the program does as the child of a first open's benchmark: opens the skin at path
+// once, in an editor made just before, and prints the wall and processor time of the open
+// in nanoseconds.
+int firstOpenChild(const char* path);
 
 // The colours of a real skin if the real files are there, else of the big skin.
 std::vector<int32_t> skinColours();

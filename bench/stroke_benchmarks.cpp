@@ -13,19 +13,6 @@ namespace {
 using platform::PictureBox;
 using platform::PixelRect;
 
-// What a view of the box does after an event: paints what changed since it last looked,
-// from the box's description, into a buffer as large as the canvas's visible part.
-struct View {
-    PictureBox& box;
-    std::vector<uint32_t> buffer = std::vector<uint32_t>(1920 * 1080);
-
-    void show() {
-        PixelRect d = box.takeDamage().intersect(PixelRect{0, 0, 1920, 1080});
-        box.render(d, buffer.data(), d.x1 - d.x0, platform::PixelOrder::Xrgb);
-        benchmark::DoNotOptimize(buffer.data());
-    }
-};
-
 // A skin at zoom 8 with the pencil chosen and a stroke begun; both views up to date.
 struct Stroke {
     Editor e;

@@ -25,9 +25,9 @@ public:
             if (r.run_type == Run::RT_Iteration && !r.error_occurred) {
                 const auto n = static_cast<double>(r.iterations);
                 std::string name = r.benchmark_name();
-                // A benchmark timed in wall time carries the suffix; the budgets don't.
-                if (const auto at = name.rfind("/real_time"); at != std::string::npos)
-                    name.erase(at);
+                // A benchmark timed in wall time carries a suffix; the budgets don't.
+                for (const char* suffix : {"/real_time", "/manual_time"})
+                    if (const auto at = name.rfind(suffix); at != std::string::npos) name.erase(at);
                 cpu[name] = r.cpu_accumulated_time / n;
                 wall[name] = r.real_accumulated_time / n;
             }
@@ -38,6 +38,8 @@ public:
 } // namespace
 
 int main(int argc, char** argv) {
+    if (argc == 3 && std::strcmp(argv[1], "--first-open") == 0)
+        return tavrin::bench::firstOpenChild(argv[2]);
     double margin = 0;
     std::vector<char*> args;
     for (int i = 0; i < argc; ++i) {

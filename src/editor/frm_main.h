@@ -18,9 +18,14 @@ namespace tavrin {
 using platform::PictureBox;
 using vb::Variant;
 
-class MatchCache; // palette/color_match.h
-struct LitPixels; // tools/text_scan.h
-class FrmPrint;   // shell/frm_print.h
+class MatchCache;   // palette/color_match.h
+struct LitPixels;   // tools/text_scan.h
+class FrmPrint;     // shell/frm_print.h
+namespace filters { // filters/work_buf_kernels.h
+struct GridCells;
+struct PassArea;
+enum class Kernel : int;
+} // namespace filters
 
 class FrmMain : public MainControls {
 public:
@@ -138,6 +143,44 @@ private:
     void convertPosition(float X, float Y);
     bool pressNearCanvasEdge(float X, float Y) const;
     void panCanvas(float X, float Y);
+    // The band's fixed corner, Band_X and Band_Y, from the press kept in Start_X, Start_Y.
+    void convertBandStart();
+    // Filter_Mode names one of the six area filters.
+    bool isFilterWord() const;
+
+    // ---------------- tools/shapes.cpp, pixel_runs.cpp ----------------
+    // The XOR band of a "Line" or "Box" drag, moved to the pointer.
+    void rubberBand();
+    // The release of a drag: the line, the rectangle; both end alike.
+    void finishLine();
+    void finishRectangle();
+    void endShape();
+    void outlineRectangle();
+    void fillRectangle();
+    // Where the tools' writes can land: picture1's pixels and the skin's, from 0, 0.
+    platform::PixelRect paintableArea() const;
+    // Skin_Grid as the tools address it.
+    filters::GridCells gridCells();
+    // Pixels x to x + count - 1 of row y on picture1, as PSet sets them one at a time.
+    void setPictureRow(int64_t x, int64_t y, const int32_t* colors, int64_t count);
+
+    // ---------------- shell/shape_select.cpp ----------------
+    // "Box" with the filter word: the next box dragged runs that filter.
+    void chooseFilter(const char* word);
+    void chooseRectangle(bool filled);
+
+    // ---------------- filters/area_filters.cpp ----------------
+    // The release of a box drag with a filter word: the band taken away, the corners
+    // sorted, the filter run.
+    void runBoxFilter();
+    // The filter over the sorted box of Band_X, Band_Y, Cur_X, Cur_Y, then the canvas.
+    void filterBox(filters::Kernel kernel);
+    // The two passes through Work_Buf: the first copies the colours of `first` in, the
+    // second works out each pixel of `second` by `kernel` and writes it to picture1 and
+    // the grid, matched to the palette when `match`, picture1 refreshed after each row
+    // when `refreshRows`. The brushes that smooth or tint use it on their squares.
+    void workBufPasses(const filters::PassArea& first, const filters::PassArea& second,
+                       filters::Kernel kernel, bool match, bool refreshRows);
 
     // ---------------- tools/paint_brushes.cpp, zoom.cpp ----------------
     void pencilAt(float X, float Y);

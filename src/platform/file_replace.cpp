@@ -30,17 +30,23 @@ bool statTarget(const std::string& path, struct stat& st) {
     return false;
 }
 
+// A name beside target that no file of this folder is likely to hold: hidden, and made
+// unique by the process and a counter.
+std::string sideName(const std::string& target, const char* tag) {
+    static std::atomic<unsigned> counter{0};
+    const std::filesystem::path p(target);
+    return (std::filesystem::path(folderOf(target)) /
+            ("." + p.filename().string() + "." + tag + "-" + std::to_string(::getpid()) + "-" +
+             std::to_string(counter++)))
+        .string();
+}
+
 // A file descriptor closed (and its file removed) unless the write got through.
 class NewFile {
 public:
     explicit NewFile(const std::string& target) {
-        static std::atomic<unsigned> counter{0};
-        const std::filesystem::path p(target);
         for (int attempt = 0; attempt < 100; ++attempt) {
-            path_ = (std::filesystem::path(folderOf(target)) /
-                     ("." + p.filename().string() + ".saving-" + std::to_string(::getpid()) + "-" +
-                      std::to_string(counter++)))
-                        .string();
+            path_ = sideName(target, "saving");
             // 0666 less the umask, as any new file gets; an existing target's own mode is
             // put on it before the rename.
             fd_ = ::open(path_.c_str(), O_WRONLY | O_CREAT | O_EXCL | O_CLOEXEC, 0666);
@@ -74,7 +80,8 @@ public:
         fd_ = -1;
         if (::close(fd) != 0) failWithErrno(errno); // where a network disk reports a full disk
     }
-    void renameOver(const std::string& target) {
+    // Gives the file the target's name, which must be free by now.
+    void renameTo(const std::string& target) {
         if (::rename(path_.c_str(), target.c_str()) != 0) failWithErrno(errno);
         kept_ = true;
     }
@@ -113,7 +120,23 @@ void replaceFile(const std::string& path, std::span<const uint8_t> bytes) {
     file.write(bytes);
     if (existed) file.takeModeOf(st);
     file.close();
-    file.renameOver(path);
+    if (!existed) {
+        file.renameTo(path);
+        return;
+    }
+    // The old file steps aside, the new one takes its name, and only then is the old one
+    // removed; a failure in between puts the old one back. Renamed straight over the old
+    // file, the new one would be written out to the disk at once (ext4 does so, against
+    // a crash before its data is there), which makes a save cost several times its write.
+    const std::string aside = sideName(path, "old");
+    if (::rename(path.c_str(), aside.c_str()) != 0) failWithErrno(errno);
+    try {
+        file.renameTo(path);
+    } catch (const Error&) {
+        static_cast<void>(::rename(aside.c_str(), path.c_str()));
+        throw;
+    }
+    static_cast<void>(::unlink(aside.c_str()));
 }
 
 } // namespace vb

@@ -1,7 +1,7 @@
 #pragma once
 // Writing a file whole so that a failure never costs the file that stood there: the new
-// bytes go into a fresh file beside the target, which is renamed over the target only
-// once every byte is written. The old file is never read, and nothing but a regular file
+// bytes go into a fresh file beside the target, which takes the target's place only once
+// every byte is written. The old file is never read, and nothing but a regular file
 // (or a name that doesn't exist yet) is ever opened, so a pipe or a device can't block
 // or flood the writer.
 #include <cstdint>
@@ -17,9 +17,10 @@ namespace vb {
 void checkReplaceable(const std::string& path);
 
 // Checks as above, then writes bytes to a new file in the target's folder (with the
-// target's permissions and owner when there was one) and renames it over path. On any
-// failure the new file is removed, the target is left as it was, and PathFileAccess is
-// raised with the system's reason ("No space left on device").
+// target's permissions and owner when there was one) and gives it the target's name,
+// the old file stepping aside until then. On any failure the new file is removed, the
+// target is left as it was, and PathFileAccess is raised with the system's reason ("No
+// space left on device").
 void replaceFile(const std::string& path, std::span<const uint8_t> bytes);
 
 } // namespace vb

@@ -13,8 +13,6 @@ namespace {
 
 uint32_t rgb24(int32_t color) { return static_cast<uint32_t>(color) & 0xFFFFFFu; }
 
-int64_t area(const PixelRect& r) { return r.empty() ? 0 : (r.x1 - r.x0) * (r.y1 - r.y0); }
-
 int64_t toDevice(double v) {
     if (!std::isfinite(v)) vb::raise(vb::Overflow);
     double r = vb::roundHalfEven(v);
@@ -107,16 +105,20 @@ void PictureBox::geometryChanged(const TwipsProp& prop) {
         if (innerW_ > 0) userW_ = userW_ / innerW_ * w;
         if (innerH_ > 0) userH_ = userH_ / innerH_ * h;
     }
-    std::shared_ptr<Raster> old = image_;
+    // What was drawn stays where there is room; a box with nothing drawn on it shows the
+    // back colour and the picture, as its new pixels will.
+    const std::shared_ptr<Raster> old = drawnOn_ ? image_ : nullptr;
     innerW_ = w;
     innerH_ = h;
     resetImage();
-    if (design_.autoRedraw && old) { // what was drawn stays where the box still has room
-        Raster& r = *image_;
-        int cw = std::min(old->width, w), ch = std::min(old->height, h);
-        for (int y = 0; cw > 0 && y < ch; ++y)
+    const int cw = old ? std::min(old->width, w) : 0, ch = old ? std::min(old->height, h) : 0;
+    if (cw > 0 && ch > 0) {
+        raster();
+        if (image_.use_count() > 1) image_ = std::make_shared<Raster>(*image_); // the picture's
+        for (int y = 0; y < ch; ++y)
             std::copy_n(&old->px[static_cast<std::size_t>(y) * old->width], cw,
-                        &r.px[static_cast<std::size_t>(y) * w]);
+                        &image_->px[static_cast<std::size_t>(y) * w]);
+        drawnOn_ = true;
     }
     if (!design_.autoRedraw) ops_.clear();
     changedPixels(inner());
@@ -124,23 +126,39 @@ void PictureBox::geometryChanged(const TwipsProp& prop) {
 
 // ---- content ----
 
+// The box's pixels become the back colour and the picture. They are made when first
+// needed, from what stands then, so that a box resized, cleared or given a picture several
+// times over (a load does all three) makes them once; their memory counts from now.
 void PictureBox::resetImage() {
     spares_ = {};
-    if (!design_.autoRedraw) {
-        image_.reset();
+    drawnOn_ = false;
+    image_.reset();
+    unmade_ = vb::Reservation(); // the old pixels go before the new ones are counted
+    if (!design_.autoRedraw) return;
+    if (fillingPicture())
+        makeImage(); // costs nothing
+    else
+        unmade_ = vb::Reservation(static_cast<std::size_t>(innerW_) * innerH_, sizeof(uint32_t));
+}
+
+bool PictureBox::fillingPicture() const {
+    return picture_ && picture_->width == innerW_ && picture_->height == innerH_;
+}
+
+Raster& PictureBox::raster() const {
+    if (!image_) makeImage();
+    return *image_;
+}
+
+void PictureBox::makeImage() const {
+    unmade_ = vb::Reservation(); // the raster counts its own bytes, or the picture's
+    // A picture that fills the box is all the box shows: the box takes the picture's
+    // raster and copies it only when something is drawn on it (writable), instead of now.
+    if (fillingPicture()) {
+        image_ = std::const_pointer_cast<Raster>(picture_);
         return;
     }
-    std::shared_ptr<Raster> r;
-    if (image_ && image_.use_count() == 1 && image_->width == innerW_ &&
-        image_->height == innerH_) {
-        // Cleared in place: a box that held a huge picture alone can always be cleared,
-        // without a second one beside it for a moment.
-        r = std::move(image_);
-        std::fill(r->px.begin(), r->px.end(), rgb24(BackColor));
-        r->lineage = {};
-    } else {
-        r = std::make_shared<Raster>(innerW_, innerH_, rgb24(BackColor));
-    }
+    auto r = std::make_shared<Raster>(innerW_, innerH_, rgb24(BackColor));
     if (picture_) {
         int cw = std::min(picture_->width, innerW_), ch = std::min(picture_->height, innerH_);
         for (int y = 0; cw > 0 && y < ch; ++y)
@@ -154,21 +172,23 @@ void PictureBox::resetImage() {
 // a copy. A view's picture holds the raster drawn before, so each event of a stroke would
 // copy the whole picture: instead the box keeps the rasters it let go and, once nobody
 // else holds one, takes it back, copying in only the pixels written since it was let go.
-Raster& PictureBox::writable(const PixelRect& touched) {
+Raster& PictureBox::writable(const PixelRegion& touched) {
+    raster();
     if (image_.use_count() > 1) {
         Spare* back = nullptr;
         for (Spare& s : spares_)
             if (s.raster && s.raster.use_count() == 1 && s.raster->width == image_->width &&
-                s.raster->height == image_->height && (!back || area(s.stale) < area(back->stale)))
+                s.raster->height == image_->height &&
+                (!back || s.stale.area() < back->stale.area()))
                 back = &s;
         std::shared_ptr<Raster> next;
         if (back) {
-            const PixelRect st =
-                back->stale.intersect(PixelRect{0, 0, image_->width, image_->height});
-            for (int64_t y = st.y0; y < st.y1; ++y) {
-                const auto at = static_cast<std::size_t>(y * image_->width + st.x0);
-                std::copy_n(&image_->px[at], st.x1 - st.x0, &back->raster->px[at]);
-            }
+            for (const PixelRect& st :
+                 back->stale.intersect(PixelRect{0, 0, image_->width, image_->height}))
+                for (int64_t y = st.y0; y < st.y1; ++y) {
+                    const auto at = static_cast<std::size_t>(y * image_->width + st.x0);
+                    std::copy_n(&image_->px[at], st.x1 - st.x0, &back->raster->px[at]);
+                }
             back->raster->lineage = image_->lineage; // now a copy with nothing written yet
             next = std::move(back->raster);
         } else {
@@ -176,15 +196,16 @@ Raster& PictureBox::writable(const PixelRect& touched) {
             // An empty slot, else that of the spare that differs the most.
             back = &spares_[0];
             for (Spare& s : spares_)
-                if (back->raster && (!s.raster || area(s.stale) > area(back->stale))) back = &s;
+                if (back->raster && (!s.raster || s.stale.area() > back->stale.area())) back = &s;
         }
-        *back = Spare{std::move(image_), PixelRect{}};
+        *back = Spare{std::move(image_), PixelRegion{}};
         image_ = std::move(next);
     }
-    const PixelRect t = touched.intersect(inner());
-    image_->lineage.written = image_->lineage.written.unite(t);
+    drawnOn_ = true;
+    const PixelRegion t = touched.intersect(inner());
+    image_->lineage.written.add(t);
     for (Spare& s : spares_)
-        s.stale = s.stale.unite(t);
+        s.stale.add(t);
     changedPixels(t);
     return *image_;
 }
@@ -229,7 +250,7 @@ int32_t PictureBox::Point(double x, double y) const {
     int64_t px = toPixelX(x), py = toPixelY(y);
     if (!inner().contains(px, py)) return -1;
     if (design_.autoRedraw)
-        return static_cast<int32_t>(image_->at(static_cast<int>(px), static_cast<int>(py)));
+        return static_cast<int32_t>(raster().at(static_cast<int>(px), static_cast<int>(py)));
     for (auto it = ops_.rbegin(); it != ops_.rend(); ++it) {
         if (auto* line = std::get_if<LineOp>(&*it)) {
             if (line->seg.contains(px, py)) return static_cast<int32_t>(line->color);
@@ -253,13 +274,42 @@ void PictureBox::PSet(double x, double y, int32_t color) {
     int64_t px = toPixelX(x), py = toPixelY(y);
     if (!inner().contains(px, py)) return;
     if (design_.autoRedraw) {
-        plot(writable(PixelRect{px, py, px + 1, py + 1}), px, py, rgb24(color));
+        // A pixel set to what it holds changes nothing: nothing to copy, nothing to
+        // repaint (a stroke sets the same pixel at each move until the pointer leaves it).
+        const uint32_t c = rgb24(color);
+        const uint32_t now = raster().at(static_cast<int>(px), static_cast<int>(py));
+        if ((DrawMode.get() == kXorPen ? (now ^ c) : c) == now) return;
+        plot(writable(PixelRect{px, py, px + 1, py + 1}), px, py, c);
     } else {
         ops_.push_back(LineOp{LineSegment{static_cast<int32_t>(px), static_cast<int32_t>(py),
                                           static_cast<int32_t>(px), static_cast<int32_t>(py)},
                               rgb24(color)});
         changedPixels(PixelRect{px, py, px + 1, py + 1});
     }
+}
+
+void PictureBox::PSetRow(int64_t x, int64_t y, const int32_t* colors, int64_t count) {
+    const PixelRect row = PixelRect{x, y, x + count, y + 1}.intersect(inner());
+    if (row.empty()) return;
+    const int32_t* from = colors + (row.x0 - x);
+    if (design_.autoRedraw) {
+        Raster& r = writable(row);
+        uint32_t* to = &r.at(static_cast<int>(row.x0), static_cast<int>(y));
+        const int64_t n = row.x1 - row.x0;
+        if (DrawMode.get() == kXorPen) {
+            for (int64_t i = 0; i < n; ++i)
+                to[i] ^= rgb24(from[i]);
+        } else {
+            for (int64_t i = 0; i < n; ++i)
+                to[i] = rgb24(from[i]);
+        }
+        return;
+    }
+    for (int64_t px = row.x0; px < row.x1; ++px) {
+        const auto at = static_cast<int32_t>(px), down = static_cast<int32_t>(y);
+        ops_.push_back(LineOp{LineSegment{at, down, at, down}, rgb24(*from++)});
+    }
+    changedPixels(row);
 }
 
 void PictureBox::Line(double x1, double y1, double x2, double y2, int32_t color, int kind) {
@@ -289,9 +339,11 @@ void PictureBox::Line(double x1, double y1, double x2, double y2, int32_t color,
     } else {
         segments.push_back(seg(ax, ay, bx, by));
     }
-    PixelRect touched = fill ? filled : PixelRect{};
+    // An outline damages its sides and a slanting line a few boxes along it: a rubber
+    // band dragged over a large area repaints what it crosses, not the whole area.
+    PixelRegion touched = fill ? filled.intersect(inner()) : PixelRect{};
     for (const auto& s : segments)
-        touched = touched.unite(boundsOf(LineOp{s, c}));
+        touched.add(s.pieces(inner()));
     if (design_.autoRedraw) {
         Raster& r = writable(touched);
         for (const auto& s : segments)
@@ -334,7 +386,7 @@ void PictureBox::PaintPicture(const PictureHandle& picture, double x, double y, 
         }
     } else {
         PixelRect b = op.bounds();
-        PixelRect changed = b;
+        PixelRegion changed = b.intersect(inner());
         // Nothing under a picture that covers the whole box can show again.
         if (b.x0 <= 0 && b.y0 <= 0 && b.x1 >= innerW_ && b.y1 >= innerH_) {
             changed = repaintedArea(op);
@@ -348,21 +400,27 @@ void PictureBox::PaintPicture(const PictureHandle& picture, double x, double y, 
 // What a picture covering the whole box changes of what it shows. Repainting a later
 // copy of the picture underneath, over the same rectangle, changes only what was
 // written into the copy and what was drawn over the old one.
-PixelRect PictureBox::repaintedArea(const PaintOp& cover) const {
+PixelRegion PictureBox::repaintedArea(const PaintOp& cover) const {
     const auto* under = ops_.empty() ? nullptr : std::get_if<PaintOp>(&ops_.front());
     if (!under || under->x != cover.x || under->y != cover.y || under->w != cover.w ||
         under->h != cover.h || under->src->width != cover.src->width ||
         under->src->height != cover.src->height)
         return inner();
     const Lineage& now = cover.src->lineage;
-    PixelRect area;
+    PixelRegion area;
     if (under->src != cover.src) {
         if (now.parent != under->src->lineage.serial) return inner();
-        area = stretchedArea(now.written, cover.src->width, cover.src->height, cover.x, cover.y,
-                             cover.w, cover.h);
+        for (const PixelRect& r : now.written)
+            area.add(stretchedArea(r, cover.src->width, cover.src->height, cover.x, cover.y,
+                                   cover.w, cover.h)
+                         .intersect(inner()));
     }
-    for (std::size_t i = 1; i < ops_.size(); ++i)
-        area = area.unite(boundsOf(ops_[i]));
+    for (std::size_t i = 1; i < ops_.size(); ++i) {
+        if (const auto* line = std::get_if<LineOp>(&ops_[i]))
+            area.add(line->seg.pieces(inner()));
+        else
+            area.add(boundsOf(ops_[i]).intersect(inner()));
+    }
     return area;
 }
 
@@ -377,7 +435,10 @@ PixelRect PictureBox::boundsOf(const Op& op) {
 }
 
 PictureHandle PictureBox::Image() const {
-    if (design_.autoRedraw) return image_;
+    if (design_.autoRedraw) {
+        raster();
+        return image_;
+    }
     auto r = std::make_shared<Raster>(innerW_, innerH_, 0u);
     render(inner(), r->px.data(), innerW_);
     return r;

@@ -94,6 +94,10 @@ public:
 
     int32_t Point(double x, double y) const; // -1 outside the inner area
     void PSet(double x, double y, int32_t color);
+    // count pixels of row y from column x on, as PSet would set them one by one, for a
+    // box whose scale is its pixels (pixelScale()): tools that work row by row.
+    void PSetRow(int64_t x, int64_t y, const int32_t* colors, int64_t count);
+    bool pixelScale() const { return unitsPerPixel(true) == 1 && unitsPerPixel(false) == 1; }
     void Line(double x1, double y1, double x2, double y2, int32_t color, int kind);
     // Stretches the whole of picture over (x, y, w, h); a negative w or h mirrors it.
     void PaintPicture(const PictureHandle& picture, double x, double y, double w, double h);
@@ -122,7 +126,7 @@ public:
     int innerHeight() const { return innerH_; }
     // The part of the inner area whose pixels may have changed since the last call: what
     // the one view of the box repaints.
-    PixelRect takeDamage() { return std::exchange(damage_, PixelRect{}); }
+    PixelRegion takeDamage() { return std::exchange(damage_, PixelRegion{}); }
     // Writes the inner area's pixels of region (clipped to the inner area) into dst,
     // whose first pixel is region's top left.
     void render(const PixelRect& region, uint32_t* dst, std::ptrdiff_t stride,
@@ -154,29 +158,37 @@ private:
     double unitsPerPixel(bool across) const;
     PixelRect inner() const { return PixelRect{0, 0, innerW_, innerH_}; }
     uint32_t background(int64_t x, int64_t y) const;
-    Raster& writable(const PixelRect& touched); // the raster, unshared, about to change there
+    // The raster, unshared, about to change in touched (inside the inner area).
+    Raster& writable(const PixelRegion& touched);
     void plot(Raster& r, int64_t x, int64_t y, uint32_t color) const;
     void resetImage();
-    void changedPixels(const PixelRect& area) { damage_ = damage_.unite(area.intersect(inner())); }
-    PixelRect repaintedArea(const PaintOp& cover) const;
+    void makeImage() const;
+    bool fillingPicture() const; // the picture is as large as the inner area
+    Raster& raster() const;      // image_, made first if it is still to be made
+    void changedPixels(const PixelRegion& area) { damage_.add(area.intersect(inner())); }
+    PixelRegion repaintedArea(const PaintOp& cover) const;
     static PixelRect boundsOf(const Op& op);
 
     Design design_;
     ScaleUnit unit_;
     double userW_ = 0, userH_ = 0; // user scale extents
     int innerW_ = 0, innerH_ = 0;
-    std::shared_ptr<Raster> image_; // AutoRedraw boxes
+    // AutoRedraw boxes: the pixels, or none until they are needed after a clear or a
+    // resize, while unmade_ counts their memory.
+    mutable std::shared_ptr<Raster> image_;
+    mutable vb::Reservation unmade_;
+    bool drawnOn_ = false; // image_ holds more than the back colour and picture_
     // Rasters the box let go to picture handles, each with the part where it may differ
     // from image_. Two, as the undo snapshot holds one of them for a whole stroke while
     // the box and the canvas's picture pass the other back and forth.
     struct Spare {
         std::shared_ptr<Raster> raster;
-        PixelRect stale;
+        PixelRegion stale;
     };
     std::array<Spare, 2> spares_;
     PictureHandle picture_;
     std::vector<Op> ops_; // boxes without AutoRedraw: what was drawn since the last clear
-    PixelRect damage_;
+    PixelRegion damage_;
     int observerId_ = 0;
 };
 

@@ -15,6 +15,16 @@ uint32_t toXrgb(uint32_t c) {
     return 0xFF000000u | (c & 0x00FF00u) | ((c >> 16) & 0xFFu) | ((c & 0xFFu) << 16);
 }
 
+// A band's side is a pixel or two wide: copied in place, not by a library call a row.
+void copyPixels(const uint32_t* from, int64_t n, uint32_t* to) {
+    if (n > 8) {
+        std::copy_n(from, n, to);
+        return;
+    }
+    for (int64_t i = 0; i < n; ++i)
+        to[i] = from[i];
+}
+
 // Where a destination row takes its pixels: `count` pixels in a row from source column
 // `col`. A zoomed picture repeats each source pixel, so a row is a few fills.
 struct Run {
@@ -43,12 +53,13 @@ void PictureBox::render(const PixelRect& region, uint32_t* dst, std::ptrdiff_t s
     };
     const int64_t width = area.x1 - area.x0;
     if (design_.autoRedraw) {
+        const Raster& image = raster();
         for (int64_t y = area.y0; y < area.y1; ++y) {
-            const uint32_t* row = &image_->px[static_cast<std::size_t>(y) * innerW_ + area.x0];
+            const uint32_t* row = &image.px[static_cast<std::size_t>(y) * innerW_ + area.x0];
             if (xrgb)
                 std::transform(row, row + width, out(area.x0, y), toXrgb);
             else
-                std::copy_n(row, width, out(area.x0, y));
+                copyPixels(row, width, out(area.x0, y));
         }
         return;
     }
@@ -80,6 +91,17 @@ void PictureBox::render(const PixelRect& region, uint32_t* dst, std::ptrdiff_t s
         const PixelRect f = b.intersect(area);
         if (f.empty()) continue;
         const int64_t srcW = p.src->width, srcH = p.src->height;
+        if (p.w == srcW && p.h == srcH) { // not stretched: each row is a plain copy
+            for (int64_t y = f.y0; y < f.y1; ++y) {
+                const uint32_t* row =
+                    &p.src->px[static_cast<std::size_t>((y - b.y0) * srcW + (f.x0 - b.x0))];
+                if (xrgb)
+                    std::transform(row, row + (f.x1 - f.x0), out(f.x0, y), toXrgb);
+                else
+                    copyPixels(row, f.x1 - f.x0, out(f.x0, y));
+            }
+            continue;
+        }
         runs.clear();
         bool inside = true;
         for (int64_t x = f.x0; x < f.x1 && inside; ++x) {
@@ -99,7 +121,7 @@ void PictureBox::render(const PixelRect& region, uint32_t* dst, std::ptrdiff_t s
             if (sy < 0 || sy >= srcH) continue;
             uint32_t* o = out(f.x0, y);
             if (sy == builtFrom) {
-                std::copy_n(built, n, o);
+                copyPixels(built, static_cast<int64_t>(n), o);
             } else {
                 const uint32_t* row = &p.src->px[static_cast<std::size_t>(sy * srcW)];
                 if (xrgb)

@@ -60,7 +60,8 @@ Lineage& Lineage::operator=(const Lineage& from) {
 Raster::Raster(int w, int h, uint32_t fill) : width(w), height(h) {
     auto count = static_cast<std::size_t>(w) * static_cast<std::size_t>(h);
     memory = vb::Reservation(count, sizeof(uint32_t));
-    px.assign(count, fill);
+    px.resize(count); // calloc's zeros
+    if (fill != 0) std::fill(px.begin(), px.end(), fill);
 }
 
 PixelRect PixelRect::intersect(const PixelRect& o) const {
@@ -76,6 +77,107 @@ PixelRect PixelRect::unite(const PixelRect& o) const {
                      std::max(y1, o.y1)};
 }
 
+int64_t PixelRect::area() const {
+    if (empty()) return 0;
+    const Wide a = static_cast<Wide>(x1 - x0) * (y1 - y0);
+    return a > INT64_MAX ? INT64_MAX : static_cast<int64_t>(a);
+}
+
+void PixelRegion::add(const PixelRect& r) {
+    if (r.empty()) return;
+    PixelRect joined = r;
+    // Rectangles the new one holds, or that join it into one without new pixels, go
+    // into it; a rectangle that holds it leaves the region as it is.
+    for (std::size_t i = 0; i < count_;) {
+        const PixelRect& e = rects_[i];
+        const PixelRect both = e.unite(joined);
+        if (both.area() == e.area()) return; // e holds it
+        // Joined without new pixels: the union's area is the two areas less their overlap.
+        if (both.area() - joined.area() == e.area() - e.intersect(joined).area()) {
+            joined = both;
+            rects_[i] = rects_[--count_];
+            i = 0; // the larger one may now join a rectangle passed before
+            continue;
+        }
+        ++i;
+    }
+    if (count_ < kMostRects) {
+        rects_[count_++] = joined;
+        return;
+    }
+    std::size_t best = 0;
+    int64_t growth = -1;
+    for (std::size_t i = 0; i < count_; ++i) {
+        const int64_t g = rects_[i].unite(joined).area() - rects_[i].area();
+        if (growth < 0 || g < growth) {
+            growth = g;
+            best = i;
+        }
+    }
+    rects_[best] = rects_[best].unite(joined);
+}
+
+void PixelRegion::add(const PixelRegion& o) {
+    for (const PixelRect& r : o)
+        add(r);
+}
+
+bool PixelRegion::contains(int64_t x, int64_t y) const {
+    return std::any_of(begin(), end(), [&](const PixelRect& r) { return r.contains(x, y); });
+}
+
+PixelRect PixelRegion::bounds() const {
+    PixelRect b;
+    for (const PixelRect& r : *this)
+        b = b.unite(r);
+    return b;
+}
+
+int64_t PixelRegion::area() const {
+    int64_t a = 0;
+    for (const PixelRect& r : *this)
+        a += r.area();
+    return a;
+}
+
+PixelRegion PixelRegion::intersect(const PixelRect& clip) const {
+    PixelRegion out;
+    for (const PixelRect& r : *this)
+        out.add(r.intersect(clip));
+    return out;
+}
+
+PixelRegion LineSegment::pieces(const PixelRect& clip) const {
+    const int64_t dx = static_cast<int64_t>(x2) - x1, dy = static_cast<int64_t>(y2) - y1;
+    const int64_t adx = dx < 0 ? -dx : dx, ady = dy < 0 ? -dy : dy;
+    const bool alongX = adx >= ady;
+    const int64_t n = alongX ? adx : ady, minor = alongX ? ady : adx;
+    // Straight and short lines are their own box; a slanting one is cut in four along
+    // its longer axis, each piece taking the minor steps of its own quarter.
+    constexpr int64_t kPieces = 4;
+    if (minor == 0 || n < 4 * kPieces) {
+        return PixelRect{std::min(x1, x2), std::min(y1, y2), int64_t{std::max(x1, x2)} + 1,
+                         int64_t{std::max(y1, y2)} + 1}
+            .intersect(clip);
+    }
+    PixelRegion out;
+    const int64_t a1 = alongX ? x1 : y1, b1 = alongX ? y1 : x1;
+    const int64_t da = alongX ? dx : dy, db = alongX ? dy : dx;
+    const int64_t sa = da < 0 ? -1 : 1;
+    for (int64_t k = 0; k < kPieces; ++k) {
+        const int64_t i0 = n * k / kPieces, i1 = n * (k + 1) / kPieces;
+        const int64_t aFrom = a1 + sa * i0, aTo = a1 + sa * i1;
+        // The minor coordinate only moves one way along the line.
+        const int64_t bFrom = minorAt(b1, db, i0, n), bTo = minorAt(b1, db, i1, n);
+        const int64_t aLo = std::min(aFrom, aTo), aHi = std::max(aFrom, aTo);
+        const int64_t bLo = std::min(bFrom, bTo), bHi = std::max(bFrom, bTo);
+        out.add(
+            (alongX ? PixelRect{aLo, bLo, aHi + 1, bHi + 1} : PixelRect{bLo, aLo, bHi + 1, aHi + 1})
+                .intersect(clip));
+    }
+    return out;
+}
+
 bool LineSegment::contains(int64_t x, int64_t y) const {
     int64_t dx = static_cast<int64_t>(x2) - x1, dy = static_cast<int64_t>(y2) - y1;
     int64_t adx = dx < 0 ? -dx : dx, ady = dy < 0 ? -dy : dy;
@@ -88,6 +190,7 @@ bool LineSegment::contains(int64_t x, int64_t y) const {
 }
 
 int64_t stretchSource(int64_t d, int64_t destExtent, int64_t srcStart, int64_t srcExtent) {
+    if (destExtent == srcExtent && srcExtent > 0) return srcStart + d; // not stretched
     int64_t n = destExtent < 0 ? -destExtent : destExtent;
     if (n == 0) return srcStart;
     if (destExtent < 0) d = n - 1 - d;

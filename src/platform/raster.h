@@ -2,8 +2,10 @@
 // Pixels, lines and stretching: the pixel maths under every picture box. Colours are
 // packed 0x00BBGGRR. Pictures are shared, immutable rasters: taking a box's Image
 // costs nothing until the box is drawn on again (copy on write in PictureBox).
+#include "platform/vb_array.h"
 #include "platform/vb_memory.h"
 
+#include <array>
 #include <cstdint>
 #include <memory>
 #include <vector>
@@ -17,6 +19,36 @@ struct PixelRect {
     bool contains(int64_t x, int64_t y) const { return x >= x0 && x < x1 && y >= y0 && y < y1; }
     PixelRect intersect(const PixelRect& o) const;
     PixelRect unite(const PixelRect& o) const; // the smallest rectangle holding both
+    int64_t area() const; // saturated: a rectangle of the whole coordinate range fits
+};
+
+// A few rectangles that together hold every pixel of a change: a drawn outline is its four
+// sides, not the box they enclose, so that whoever repaints after it repaints the sides.
+// Rectangles that join without taking in new pixels are joined; past kMostRects the new
+// one is joined to the rectangle that grows least by it. No allocation: a box adds to
+// its regions at every pixel it sets.
+class PixelRegion {
+public:
+    static constexpr std::size_t kMostRects = 16;
+
+    PixelRegion() = default;
+    PixelRegion(const PixelRect& r) { add(r); } // NOLINT(google-explicit-constructor)
+
+    void add(const PixelRect& r);
+    void add(const PixelRegion& o);
+    bool empty() const { return count_ == 0; }
+    std::size_t size() const { return count_; }
+    const PixelRect* begin() const { return rects_.data(); }
+    const PixelRect* end() const { return rects_.data() + count_; }
+    bool contains(int64_t x, int64_t y) const;
+    PixelRect bounds() const;
+    // The sum of the rectangles' areas: at least the pixels held.
+    int64_t area() const;
+    PixelRegion intersect(const PixelRect& clip) const;
+
+private:
+    std::array<PixelRect, kMostRects> rects_{};
+    std::size_t count_ = 0;
 };
 
 // Where a raster's pixels came from: a copy descends from its source with nothing
@@ -25,7 +57,7 @@ struct PixelRect {
 struct Lineage {
     uint64_t serial = fresh();
     uint64_t parent = 0; // 0: descends from nothing known
-    PixelRect written;
+    PixelRegion written;
     Lineage() = default;
     Lineage(const Lineage& from) : parent(from.serial) {}
     Lineage& operator=(const Lineage& from);
@@ -37,8 +69,10 @@ struct Raster {
     Raster(int w, int h, uint32_t fill);
     int width = 0;
     int height = 0;
-    vb::Reservation memory;   // before px, so a copy is counted before it is made
-    std::vector<uint32_t> px; // row by row, width * height
+    vb::Reservation memory; // before px, so a copy is counted before it is made
+    // Row by row, width * height. From calloc: a black raster costs nothing until it is
+    // drawn on, so a picture sized before it is filled writes its pages once.
+    vb::ZeroedVector<uint32_t> px;
     Lineage lineage;
 
     uint32_t at(int x, int y) const { return px[static_cast<std::size_t>(y) * width + x]; }
@@ -54,6 +88,9 @@ struct LineSegment {
     int32_t x1 = 0, y1 = 0, x2 = 0, y2 = 0;
 
     bool contains(int64_t x, int64_t y) const;
+    // Where the line's pixels inside clip lie: its box, or for a long slanting line the
+    // boxes of a few pieces of it, which hold far fewer pixels than the whole box.
+    PixelRegion pieces(const PixelRect& clip) const;
     // Calls fn(x, y) for every pixel of the line inside clip, each once.
     template <class F> void forEach(const PixelRect& clip, F&& fn) const;
 
@@ -78,7 +115,13 @@ PixelRect stretchedArea(const PixelRect& srcRect, int64_t srcW, int64_t srcH, in
 __extension__ typedef __int128 Wide; // products of two 32-bit coordinates and more
 
 inline int64_t LineSegment::minorAt(int64_t start, int64_t delta, int64_t i, int64_t n) {
-    if (n == 0) return start;
+    if (n == 0 || delta == 0) return start;
+    // In 64 bits where the products fit: a long band asks this for every pixel.
+    constexpr int64_t kSmall = int64_t{1} << 30;
+    if (i >= 0 && i < kSmall && n < kSmall && delta > -kSmall && delta < kSmall) {
+        const int64_t num = 2 * i * delta + n, den = 2 * n;
+        return start + (num >= 0 ? num / den : -((-num + den - 1) / den));
+    }
     // Round i * delta / n to nearest, halves upward; 128-bit since both factors may be
     // 32-bit coordinates.
     Wide num = static_cast<Wide>(2) * i * delta + n;

@@ -124,6 +124,10 @@ public:
     int64_t UBound(int dimension) const {
         return (dimension == 1 ? n0_ : dimension == 2 ? n1_ : n2_) - 1;
     }
+    // Bulk access for the loops that check their bounds once a row: element (i, j, k)
+    // stands at (i * n1 + j) * n2 + k.
+    T* data() { return data_.data(); }
+    const T* data() const { return data_.data(); }
 
 private:
     template <class I> static int64_t index(I i) {

@@ -68,13 +68,14 @@ void FrmMain::Get_PCX() {
 
         // Picture4 (the skin less its border) shows each pixel in the colour its cell was
         // decoded in, as a PSet for each would have left it; it is made once the decoding
-        // got through, since a failed one shows nothing.
-        const platform::PictureHandle shown = Picture4.Image();
-        const bool covered = shown->width <= W && shown->height * W <= decoded.end;
-        platform::Raster image =
-            covered ? platform::Raster(shown->width, shown->height, 0) : *shown;
-        paintDecoded(grid, decoded, values, image);
-        Picture4.Picture = std::make_shared<const platform::Raster>(std::move(image));
+        // got through, since a failed one shows nothing. Made once, at its size: Picture4
+        // and picture1, which are as large, both show that one raster until drawn on.
+        const int shownW = Picture4.innerWidth(), shownH = Picture4.innerHeight();
+        const bool covered = shownW <= W && shownH * W <= decoded.end;
+        auto image = covered ? std::make_shared<platform::Raster>(shownW, shownH, 0)
+                             : std::make_shared<platform::Raster>(*Picture4.Image());
+        paintDecoded(grid, decoded, values, *image);
+        Picture4.Picture = std::move(image);
         picture1.Picture = Picture4.Image();
         SSPanel6.Visible = false;
         for (std::size_t k = 0; k < layout.header.size(); ++k)

@@ -42,6 +42,12 @@ void FrmMain::convertPosition(float X, float Y) {
     Cur_Y = skinPixel(Y, Scale_Y);
 }
 
+// The band's fixed corner, from the press's position as it was kept.
+void FrmMain::convertBandStart() {
+    Band_X = skinPixel(static_cast<float>(Start_X.num()), Scale_X);
+    Band_Y = skinPixel(static_cast<float>(Start_Y.num()), Scale_Y);
+}
+
 // Only a press is tested: a stroke in progress paints right up to the edge and beyond.
 bool FrmMain::pressNearCanvasEdge(float X, float Y) const {
     return Picture7.Point(X, Y) == -1 || Picture7.Point(X - 3, Y) == -1 ||
@@ -143,12 +149,13 @@ void FrmMain::Picture7_MouseMove(int16_t Button, int16_t Shift, float X, float Y
         if (Button != 1) return;
 
         // No interpolation between events: a fast stroke leaves gaps. Meant.
-        if (Tool_Mode == "Draw") {
+        if (Tool_Mode == "Line" || Tool_Mode == "Box") {
+            rubberBand();
+        } else if (Tool_Mode == "Draw") {
             pencilAt(X, Y);
         } else if (Tool_Mode == "dPaint" || Tool_Mode == "lPaint") {
             paintBrushAt(X, Y);
-        } else if (Tool_Mode != "Line" && Tool_Mode != "Box" && Tool_Mode != "Blur" &&
-                   Tool_Mode != "Air" && Tool_Mode != "dTtint") {
+        } else if (Tool_Mode != "Blur" && Tool_Mode != "Air" && Tool_Mode != "dTtint") {
             return; // other words do nothing and repaint nothing; these tools are to come
         }
         repaintCanvas();
@@ -156,12 +163,33 @@ void FrmMain::Picture7_MouseMove(int16_t Button, int16_t Shift, float X, float Y
     }
 }
 
+bool FrmMain::isFilterWord() const {
+    for (const char* word : {"Sharp", "Light", "Diffuse", "Emboss", "BlurA", "Tint"})
+        if (Filter_Mode == word) return true;
+    return false;
+}
+
 // The button and position don't matter here; every statement is guarded on its own.
 void FrmMain::Picture7_MouseUp(int16_t, int16_t, float, float) {
     vb::resume([&] { Check_Color = vb::RGB(vb::CInt(Cur_R), vb::CInt(Cur_G), vb::CInt(Cur_B)); });
     vb::resume([&] { Temp_Color_Check(); });
     vb::resume([&] { Paint_Color = Check_Color; });
-    // The area filters, the line and the rectangle finish their drags here.
+    // A finished box drag with a filter word runs the filter, and the release ends there:
+    // the overlay stays off the canvas until something else brings it back.
+    bool filtered = false;
+    vb::resume([&] {
+        if (isFilterWord() && Tool_Mode == "Box" && Drag_Active == 1) {
+            filtered = true;
+            runBoxFilter();
+        }
+    });
+    if (filtered) return;
+    vb::resume([&] {
+        if (Tool_Mode == "Line" && Drag_Active == 1) finishLine();
+    });
+    vb::resume([&] {
+        if (Tool_Mode == "Box" && Drag_Active == 1 && !isFilterWord()) finishRectangle();
+    });
     // Every repaint wipes the overlay from the canvas; it comes back after a stroke of
     // any tool, and only here.
     vb::resume([&] {

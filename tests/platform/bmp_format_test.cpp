@@ -28,11 +28,11 @@ TEST(BmpFormat, NarrowPartsAreStretchedOverAByte) {
                    {}, {}}; // 5, 6 and 5 bits
     masked.pixels = {0xF800, 0x07E0, 0x0400, 0xFFFF, 0x0001, 0};
     EXPECT_EQ(platform::decodeBmp(writeBmp(plain)).px,
-              (std::vector<uint32_t>{packed(255, 0, 0), packed(0, 255, 0), packed(0, 0, 255),
-                                     packed(132, 0, 0), 0, 0}));
+              (vb::ZeroedVector<uint32_t>{packed(255, 0, 0), packed(0, 255, 0), packed(0, 0, 255),
+                                          packed(132, 0, 0), 0, 0}));
     EXPECT_EQ(platform::decodeBmp(writeBmp(masked)).px,
-              (std::vector<uint32_t>{packed(255, 0, 0), packed(0, 255, 0), packed(0, 130, 0),
-                                     0xFFFFFF, packed(0, 0, 8), 0}));
+              (vb::ZeroedVector<uint32_t>{packed(255, 0, 0), packed(0, 255, 0), packed(0, 130, 0),
+                                          0xFFFFFF, packed(0, 0, 8), 0}));
 }
 
 // 4 x 3 pixels in runs, stored from the bottom row up: on the bottom row a run of two 5s, then
@@ -55,7 +55,7 @@ TEST(BmpFormat, RunsOfBytesAndOfNibblesWithEveryEscape) {
         file.resize(file.size() - static_cast<std::size_t>(3 * ((4 * c.bits + 31) / 32 * 4)));
         file[30] = c.bits == 8 ? 1 : 2;
         file.insert(file.end(), c.runs.begin(), c.runs.end());
-        std::vector<uint32_t> expected(12, 0);
+        vb::ZeroedVector<uint32_t> expected(12, 0);
         expected[2] = 7 * 0x010101;
         for (std::size_t x = 0; x < 4; ++x)
             expected[8 + x] = c.bottom[x] * 0x010101;

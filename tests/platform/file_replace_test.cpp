@@ -1,5 +1,5 @@
 // Saving never costs the file that stood there: the new file is written beside the
-// target and renamed over it; targets that are no writable regular file are refused
+// target and takes its place once whole; targets that are no writable regular file are refused
 // without being opened; the old file is never read.
 #include "platform/file_replace.h"
 #include "platform/vb_error.h"

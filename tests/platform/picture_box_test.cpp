@@ -3,10 +3,12 @@
 #include "platform/form.h"
 #include "platform/picture_box.h"
 #include "platform/vb_error.h"
+#include "platform/vb_memory.h"
 
 #include <gtest/gtest.h>
 
 #include <array>
+#include <functional>
 #include <memory>
 #include <random>
 #include <vector>
@@ -159,6 +161,108 @@ TEST(PictureBox, ImageIsASnapshotAndPictureCopiesItIntoAnotherBox) {
     EXPECT_EQ(c.box.Point(3, 3), kGreen);
 }
 
+// A box that a picture fills shows the picture's own pixels until it is drawn on, and a
+// resize keeps the box's drawing only where there is one: in every order the box shows
+// what a box with pixels of its own would, and the picture it was given never changes.
+TEST(PictureBox, APictureThatFillsTheBoxIsSharedYetNeverDrawnOn) {
+    struct Case {
+        const char* name;
+        std::function<void(PictureBox&)> steps;
+        std::vector<std::array<int32_t, 3>> shown; // x, y, what Point gives there
+    };
+    const auto px = [](int x, int y) { return x + 16 * y; }; // the numbered picture's pixel
+    const std::vector<Case> cases = {
+        {"drawn on", [](PictureBox& b) { b.PSet(1, 1, kRed); }, {{1, 1, kRed}, {2, 1, px(2, 1)}}},
+        {"grown after drawing",
+         [](PictureBox& b) {
+             b.PSet(1, 1, kRed);
+             b.Width = 6 * 15;
+         },
+         {{1, 1, kRed}, {3, 2, px(3, 2)}, {4, 0, kGrey}}},
+        {"shrunk and grown, never drawn on",
+         [](PictureBox& b) {
+             b.Width = 2 * 15;
+             b.Width = 4 * 15;
+         },
+         {{3, 2, px(3, 2)}}},
+        {"drawn on, shrunk and grown",
+         [](PictureBox& b) {
+             b.PSet(0, 0, kRed);
+             b.PSet(3, 0, kRed);
+             b.Width = 2 * 15;
+             b.Width = 4 * 15;
+         },
+         {{0, 0, kRed}, {3, 0, px(3, 0)}}},
+        {"drawn on while smaller, grown until the picture fills it",
+         [](PictureBox& b) {
+             b.Height = 2 * 15;
+             b.PSet(0, 1, kRed);
+             b.Height = 3 * 15;
+         },
+         {{0, 1, kRed}, {1, 2, px(1, 2)}}},
+        {"cleared after drawing",
+         [](PictureBox& b) {
+             b.PSet(2, 2, kRed);
+             b.Cls();
+         },
+         {{2, 2, px(2, 2)}}},
+    };
+    for (const Case& c : cases) {
+        Box b(4, 3);
+        const platform::PictureHandle picture = numbered(4, 3);
+        const auto before = picture->px;
+        b.box.Picture = picture;
+        c.steps(b.box);
+        for (const auto& [x, y, want] : c.shown)
+            EXPECT_EQ(b.box.Point(x, y), want) << c.name << " at " << x << ", " << y;
+        EXPECT_EQ(picture->px, before) << c.name;
+    }
+}
+
+// A view repaints what the box reports as damaged: a pixel set to what it already shows
+// (the copy pen with its colour, the XOR pen with 0) reports nothing; any other does.
+TEST(PictureBox, OnlyAPixelThatChangesIsDamaged) {
+    struct Case {
+        int pen;
+        int32_t color;
+        bool damaged;
+    };
+    for (const Case c :
+         {Case{platform::kCopyPen, kGrey, false}, Case{platform::kCopyPen, kRed, true},
+          Case{platform::kXorPen, 0, false}, Case{platform::kXorPen, kRed, true}}) {
+        Box b(4, 4);
+        b.box.DrawMode = c.pen;
+        b.box.takeDamage();
+        const platform::PictureHandle before = b.box.Image();
+        b.box.PSet(1, 2, c.color);
+        EXPECT_EQ(!b.box.takeDamage().empty(), c.damaged) << c.pen << " " << c.color;
+        EXPECT_EQ(b.box.Point(1, 2), c.pen == platform::kXorPen ? kGrey ^ c.color : c.color);
+        EXPECT_EQ(before->at(1, 2), static_cast<uint32_t>(kGrey)); // a snapshot stays as it was
+    }
+}
+
+// A box's pixels count against the memory limit once, made or still to be made, however
+// often it is cleared, resized or given a picture: a box of more than half the limit
+// stays usable.
+TEST(PictureBox, PixelsCountOnceWhetherMadeOrNot) {
+    Box b(7200, 7200); // 207 MB, over half the limit
+    const std::size_t counted = vb::liveBytes();
+    const std::function<void()> steps[] = {
+        [&] { b.box.Cls(); },
+        [&] { b.box.Point(1, 1); },
+        [&] { b.box.Picture = numbered(10, 10); },
+        [&] { b.box.Picture = platform::PictureHandle{}; },
+        [&] { b.box.PSet(1, 1, kRed); },
+        [&] { b.box.BackColor = kGreen; },
+    };
+    for (int round = 0; round < 2; ++round)
+        for (const auto& step : steps) {
+            ASSERT_NO_THROW(step());
+            EXPECT_LE(vb::liveBytes(), counted + 10 * 10 * 4); // and the picture it holds
+            EXPECT_GE(vb::liveBytes(), counted);
+        }
+}
+
 TEST(PictureBox, AHugeSizeIsRefusedWithoutAllocating) {
     Box b(4, 4);
     b.box.Width = 20000 * 15;
@@ -199,14 +303,15 @@ TEST(PictureBox, ACanvasWithoutAutoRedrawAnswersPointFromWhatWasPainted) {
 
 // A view keeps what it showed and repaints only what the box says changed. Strokes,
 // snapshots held and dropped (as undo does) and repaints of the canvas from the skin's
-// Image, at a whole and at an uneven factor, mirrored too: the view must always equal a
-// whole render, that render what Point gives, and a snapshot keep what it was taken with.
+// Image, at a whole and at an uneven factor, mirrored too, and unstretched: the view must always
+// equal a whole render, that render what Point gives, and a snapshot keep what it was taken with.
 TEST(PictureBox, AViewThatRepaintsOnlyTheDamageAlwaysShowsWhatTheBoxShows) {
     struct Geometry {
         int w, h;
         bool mirrored;
     };
-    for (const Geometry g : {Geometry{48, 30, false}, Geometry{37, 29, true}}) {
+    for (const Geometry g :
+         {Geometry{48, 30, false}, Geometry{37, 29, true}, Geometry{16, 12, false}}) {
         Box skin(16, 12), canvas(g.w, g.h, false);
         PictureBox& c = canvas.box;
         auto repaint = [&] {
@@ -217,11 +322,11 @@ TEST(PictureBox, AViewThatRepaintsOnlyTheDamageAlwaysShowsWhatTheBoxShows) {
         };
         const platform::PixelRect all{0, 0, g.w, g.h};
         std::vector<uint32_t> shown(static_cast<std::size_t>(g.w * g.h)), whole(shown.size());
-        std::vector<std::pair<platform::PictureHandle, std::vector<uint32_t>>> held;
+        std::vector<std::pair<platform::PictureHandle, decltype(platform::Raster::px)>> held;
         std::mt19937 rng(5);
         auto any = [&rng](int n) { return static_cast<int>(rng() % static_cast<unsigned>(n)); };
-        for (int step = 0; step < 600; ++step) {
-            switch (any(7)) {
+        for (int step = 0; step < 800; ++step) {
+            switch (any(8)) {
             case 0:
                 held.emplace_back(skin.box.Image(), skin.box.Image()->px);
                 break;
@@ -235,6 +340,12 @@ TEST(PictureBox, AViewThatRepaintsOnlyTheDamageAlwaysShowsWhatTheBoxShows) {
             case 2:
                 skin.box.Line(any(16), any(12), any(16), any(12), any(1 << 24),
                               platform::kFilledBoxKind);
+                break;
+            case 7: // a rubber band: an outline or a slanting line in the XOR pen
+                skin.box.DrawMode = platform::kXorPen;
+                skin.box.Line(any(16), any(12), any(16), any(12), 0xFFFFFF,
+                              any(2) ? platform::kBoxKind : platform::kLineKind);
+                skin.box.DrawMode = platform::kCopyPen;
                 break;
             case 3:
                 c.Line(any(g.w), any(g.h), any(g.w), any(g.h), kGreen, platform::kLineKind);
@@ -250,9 +361,9 @@ TEST(PictureBox, AViewThatRepaintsOnlyTheDamageAlwaysShowsWhatTheBoxShows) {
             }
             for (int look = 0; look < 2; ++look) { // before and after the repaint
                 if (look == 1) repaint();
-                const platform::PixelRect d = c.takeDamage();
-                c.render(d, &shown[static_cast<std::size_t>(d.y0 * g.w + d.x0)], g.w,
-                         platform::PixelOrder::Xrgb);
+                for (const platform::PixelRect& d : c.takeDamage())
+                    c.render(d, &shown[static_cast<std::size_t>(d.y0 * g.w + d.x0)], g.w,
+                             platform::PixelOrder::Xrgb);
                 c.render(all, whole.data(), g.w, platform::PixelOrder::Xrgb);
                 ASSERT_EQ(shown, whole) << "step " << step;
             }
@@ -276,13 +387,71 @@ TEST(PictureBox, ARepaintAfterOnePixelDamagesExactlyItsStretchedBlock) {
     canvas.box.takeDamage();
     skin.box.PSet(3, 2, kRed);
     canvas.box.PaintPicture(skin.box.Image(), 0, 0, 40, 30);
-    const platform::PixelRect d = canvas.box.takeDamage();
+    const platform::PixelRegion d = canvas.box.takeDamage();
     for (int y = 0; y < 30; ++y)
         for (int x = 0; x < 40; ++x) {
             const bool shows = platform::stretchSource(x, 40, 0, 7) == 3 &&
                                platform::stretchSource(y, 30, 0, 5) == 2;
             ASSERT_EQ(d.contains(x, y), shows) << x << "," << y;
         }
+}
+
+// A band dragged over a large picture and shown on a zoomed canvas damages its sides and
+// what the pieces of a slanting line cross, in the picture and on the canvas: every pixel
+// it changed and only a small part of the box.
+TEST(PictureBox, ARubberBandDamagesItsOutlineNotItsBox) {
+    Box skin(200, 150), canvas(400, 300, false);
+    const auto repaint = [&] { canvas.box.PaintPicture(skin.box.Image(), 0, 0, 400, 300); };
+    repaint();
+    skin.box.DrawMode = platform::kXorPen;
+    for (const int kind : {platform::kBoxKind, platform::kLineKind}) {
+        skin.box.takeDamage();
+        canvas.box.takeDamage();
+        const platform::PictureHandle before = skin.box.Image();
+        skin.box.Line(10, 20, 190, 140, 0xFFFFFF, kind);
+        repaint();
+        const platform::PixelRegion d = skin.box.takeDamage(), shown = canvas.box.takeDamage();
+        const platform::PictureHandle after = skin.box.Image();
+        for (int y = 0; y < 150; ++y)
+            for (int x = 0; x < 200; ++x)
+                if (before->at(x, y) != after->at(x, y)) {
+                    ASSERT_TRUE(d.contains(x, y)) << kind << ": " << x << "," << y;
+                    ASSERT_TRUE(shown.contains(2 * x + 1, 2 * y + 1)) << kind;
+                }
+        EXPECT_LT(d.area(), 181 * 121 / 3) << kind;
+        EXPECT_LT(shown.area(), 4 * 181 * 121 / 3) << kind;
+    }
+}
+
+// Whatever is added, the region holds it, in at most kMostRects rectangles; rectangles
+// that line up are joined, so an outline stays four sides.
+TEST(PixelRegion, HoldsEveryRectangleAddedInFewRectangles) {
+    platform::PixelRegion outline;
+    for (const platform::PixelRect r : {platform::PixelRect{0, 0, 50, 1},
+                                        {0, 40, 50, 41},
+                                        {0, 0, 1, 41},
+                                        {49, 0, 50, 41},
+                                        {20, 0, 60, 1},
+                                        {0, 0, 50, 1},
+                                        {3, 3, 3, 9}})
+        outline.add(r);
+    EXPECT_EQ(outline.size(), 4u); // the second top row joins the first; the rest add nothing
+    EXPECT_EQ(outline.area(), 60 + 50 + 41 + 41);
+
+    std::mt19937 rng(11);
+    platform::PixelRegion scattered;
+    std::vector<platform::PixelRect> added;
+    for (int i = 0; i < 300; ++i) {
+        const auto any = [&rng](unsigned n) { return static_cast<int64_t>(rng() % n); };
+        const int64_t x = any(500), y = any(500);
+        added.push_back({x, y, x + 1 + any(4), y + 1 + any(4)});
+        scattered.add(added.back());
+        ASSERT_LE(scattered.size(), platform::PixelRegion::kMostRects);
+    }
+    for (const platform::PixelRect& r : added)
+        for (int64_t y = r.y0; y < r.y1; ++y)
+            for (int64_t x = r.x0; x < r.x1; ++x)
+                ASSERT_TRUE(scattered.contains(x, y)) << x << "," << y;
 }
 
 } // namespace

@@ -97,7 +97,7 @@ TEST(PictureLoad, TheBitmapReaderAgreesWithQtsOnRandomBitmaps) {
         platform::Raster ours = platform::decodeBmp(file);
         ASSERT_EQ(ours.width, theirs->width) << round;
         ASSERT_EQ(ours.height, theirs->height) << round;
-        std::vector<uint32_t> expected = theirs->px;
+        vb::ZeroedVector<uint32_t> expected = theirs->px;
         if (s.bits == 16) {
             // Parts narrower than a byte: Qt puts them in a byte's top bits (31 of 31 is
             // 248), ours stretches them over the byte (255). The bits the file holds agree.

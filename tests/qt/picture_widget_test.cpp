@@ -85,6 +85,43 @@ TEST(PictureWidget, AStrokeRepaintsOnlyTheBlockOfThePixelItChanged) {
     EXPECT_EQ(painted.rects[0], QRect(80, 160, 8, 8));
 }
 
+// A rubber band's outline, drawn in XOR on the skin and shown at zoom 8, reaches the
+// widget as the four sides it changed, not the box they enclose.
+TEST(PictureWidget, ABandRepaintsItsSidesNotItsBox) {
+    platform::Form form("frmTest");
+    PictureBox skin(&form, "picture1", {platform::ScaleUnit::Pixels, 0, true, 0});
+    PictureBox canvas(&form, "Picture7", {platform::ScaleUnit::Pixels, 0, false, 0});
+    skin.Width = 40 * 15;
+    skin.Height = 30 * 15;
+    canvas.Width = 320 * 15;
+    canvas.Height = 240 * 15;
+    platform::qt::PictureWidget widget(canvas, nullptr);
+    widget.resize(320, 240);
+    widget.show();
+    canvas.PaintPicture(skin.Image(), 0, 0, 320, 240);
+    widget.sync();
+    QApplication::processEvents();
+
+    struct PaintRegions : QObject {
+        int64_t area = 0;
+        bool eventFilter(QObject*, QEvent* event) override {
+            if (event->type() == QEvent::Paint)
+                for (const QRect& r : static_cast<QPaintEvent*>(event)->region())
+                    area += int64_t{r.width()} * r.height();
+            return false;
+        }
+    } painted;
+    widget.installEventFilter(&painted);
+    skin.DrawMode = platform::kXorPen;
+    skin.Line(2, 2, 37, 27, 0xFFFFFF, platform::kBoxKind);
+    canvas.PaintPicture(skin.Image(), 0, 0, 320, 240);
+    widget.sync();
+    QApplication::processEvents();
+    // The sides: 2 x 36 + 2 x 24 pixels of the skin, 64 canvas pixels each.
+    EXPECT_GT(painted.area, 0);
+    EXPECT_LE(painted.area, (2 * 36 + 2 * 24) * 64);
+}
+
 // With the form's arguments: the button that changed (or, in a move, the buttons held),
 // the shift state, and the position in the box's scale.
 TEST(PictureWidget, MouseEventsReachTheHandlersWithTheFormsArguments) {

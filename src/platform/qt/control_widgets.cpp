@@ -12,11 +12,10 @@
 #include <QLineEdit>
 #include <QListWidget>
 #include <QMouseEvent>
+#include <QPainter>
 #include <QProgressBar>
 #include <QSlider>
 #include <QVBoxLayout>
-
-#include <map>
 
 namespace platform::qt {
 
@@ -93,11 +92,18 @@ private:
     QLabel* label_;
 };
 
-// A text box whose KeyPress sees each typed character first, Enter as 13, and may
-// swallow it by setting the code to 0.
+// A text box as the stock control drew it, a flat field in a sunken two-pixel border,
+// whose KeyPress sees each typed character first, Enter as 13, and may swallow it by
+// setting the code to 0. The style's own frame, rounded and shaded, costs as much to
+// paint again as the text does, and the X and Y boxes get a new text at nearly every
+// move of the mouse.
 class TextBoxWidget : public QLineEdit {
 public:
     TextBoxWidget(TextBox& box, QWidget* parent) : QLineEdit(parent), box_(box) {
+        setFrame(false);
+        setTextMargins(2, 2, 2, 2);
+        // Opaque: a new text repaints the box alone, not the panel under it too.
+        setAutoFillBackground(true);
         QObject::connect(this, &QLineEdit::textEdited, this,
                          [this](const QString& text) { box_.Text = text.toStdString(); });
     }
@@ -112,6 +118,22 @@ protected:
             if (code == 0) return;
         }
         QLineEdit::keyPressEvent(event);
+    }
+
+    void paintEvent(QPaintEvent* event) override {
+        QLineEdit::paintEvent(event);
+        // Plain fills: drawn as lines, the border would cost as much as the text.
+        QPainter p(this);
+        const QPalette& c = palette();
+        const int w = width(), h = height();
+        p.fillRect(0, 0, w, 1, c.dark()); // outer edge: shadow above and left, light below
+        p.fillRect(0, 0, 1, h, c.dark());
+        p.fillRect(0, h - 1, w, 1, c.light());
+        p.fillRect(w - 1, 0, 1, h, c.light());
+        p.fillRect(1, 1, w - 2, 1, c.shadow()); // inner edge
+        p.fillRect(1, 1, 1, h - 2, c.shadow());
+        p.fillRect(1, h - 2, w - 2, 1, c.midlight());
+        p.fillRect(w - 2, 1, 1, h - 2, c.midlight());
     }
 
 private:
@@ -162,7 +184,8 @@ QWidget* makeControlWidget(Control& control, QWidget* parent) {
     return w;
 }
 
-void updateControlWidget(Control& control, QWidget* widget) {
+void updateControlWidget(Control& control, QWidget* widget, const PropBase* changed) {
+    const auto is = [changed](const PropBase& p) { return changed == nullptr || changed == &p; };
     switch (control.kind()) {
     case ControlKind::Panel:
         static_cast<PanelWidget*>(widget)->setCaption(static_cast<Panel&>(control).Caption);
@@ -174,16 +197,20 @@ void updateControlWidget(Control& control, QWidget* widget) {
     case ControlKind::Label: {
         auto& c = static_cast<Label&>(control);
         auto* l = static_cast<QLabel*>(widget);
-        l->setText(qs(c.Caption));
-        QFont f = l->font();
-        f.setPointSizeF(c.FontSize);
-        f.setBold(c.FontBold);
-        l->setFont(f);
+        if (is(c.Caption)) l->setText(qs(c.Caption));
+        if (is(c.FontSize) || is(c.FontBold)) {
+            QFont f = l->font();
+            f.setPointSizeF(c.FontSize);
+            f.setBold(c.FontBold);
+            l->setFont(f);
+        }
         break;
     }
     case ControlKind::TextBox: {
+        auto& c = static_cast<TextBox&>(control);
         auto* e = static_cast<QLineEdit*>(widget);
-        QString text = qs(static_cast<TextBox&>(control).Text);
+        if (!is(c.Text)) break;
+        QString text = qs(c.Text);
         if (e->text() != text) e->setText(text);
         break;
     }

@@ -9,7 +9,8 @@ namespace platform::qt {
 // A widget for the control, its clicks and edits wired to the control; nullptr for
 // kinds that have no widget on the surface.
 QWidget* makeControlWidget(Control& control, QWidget* parent);
-// Brings the widget's content (caption, text, items, value) up to the control's.
-void updateControlWidget(Control& control, QWidget* widget);
+// Brings the widget's content (caption, text, items, value) up to the control's: what the
+// property `changed` holds, or all of it when changed is nullptr.
+void updateControlWidget(Control& control, QWidget* widget, const PropBase* changed);
 
 } // namespace platform::qt

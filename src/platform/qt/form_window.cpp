@@ -15,7 +15,6 @@
 #include <QMouseEvent>
 #include <QScreen>
 #include <QStatusBar>
-#include <QStyle>
 #include <QToolBar>
 
 namespace platform::qt {
@@ -110,13 +109,27 @@ void FormWindow::buildControls() {
     for (auto& [control, w] : widgets_) {
         Control* c = const_cast<Control*>(control);
         QWidget* widget = w;
-        watch(*c, [c, widget] {
+        const auto place = [c, widget] {
             widget->setGeometry(c->Left.pixels(), c->Top.pixels(), c->Width.pixels(),
                                 c->Height.pixels());
-            widget->setVisible(c->Visible);
-            widget->setEnabled(c->Enabled);
-            updateControlWidget(*c, widget);
-        });
+        };
+        place();
+        widget->setVisible(c->Visible);
+        widget->setEnabled(c->Enabled);
+        updateControlWidget(*c, widget, nullptr);
+        // Only what changed goes to the widget: the X and Y boxes change at every move of
+        // the mouse, their place and visibility never. A Refresh (nullptr) asks for the
+        // content only; the widget shows the rest as it stands.
+        observers_.emplace_back(c, c->observe([c, widget, place](const PropBase* p) {
+            if (p == &c->Left || p == &c->Top || p == &c->Width || p == &c->Height)
+                place();
+            else if (p == &c->Visible)
+                widget->setVisible(c->Visible);
+            else if (p == &c->Enabled)
+                widget->setEnabled(c->Enabled);
+            else
+                updateControlWidget(*c, widget, p);
+        }));
     }
 }
 

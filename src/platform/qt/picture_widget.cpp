@@ -9,6 +9,7 @@
 #include <QMouseEvent>
 #include <QPaintEvent>
 #include <QPainter>
+#include <QRegion>
 
 namespace platform::qt {
 
@@ -43,11 +44,14 @@ void PictureWidget::mouseReleaseEvent(QMouseEvent* event) {
 }
 
 void PictureWidget::sync() {
-    const PixelRect d = box_.takeDamage();
-    if (d.empty()) return;
+    const PixelRegion damage = box_.takeDamage();
+    if (damage.empty()) return;
     const int inset = box_.borderPixels() / 2;
-    update(QRect(static_cast<int>(d.x0) + inset, static_cast<int>(d.y0) + inset,
-                 static_cast<int>(d.x1 - d.x0), static_cast<int>(d.y1 - d.y0)));
+    QRegion region;
+    for (const PixelRect& d : damage)
+        region += QRect(static_cast<int>(d.x0) + inset, static_cast<int>(d.y0) + inset,
+                        static_cast<int>(d.x1 - d.x0), static_cast<int>(d.y1 - d.y0));
+    update(region);
 }
 
 void PictureWidget::paintEvent(QPaintEvent* event) {
@@ -64,7 +68,13 @@ void PictureWidget::paintEvent(QPaintEvent* event) {
         painter.drawLine(width() - 1, 0, width() - 1, height() - 1);
     }
     const QRect inner(inset, inset, box_.innerWidth(), box_.innerHeight());
-    const QRect exposed = event->rect().intersected(inner);
+    // Each rectangle of the region on its own: a rubber band's sides, not the box they
+    // enclose.
+    for (const QRect& part : event->region())
+        paintExposed(painter, part.intersected(inner), inset);
+}
+
+void PictureWidget::paintExposed(QPainter& painter, const QRect& exposed, int inset) {
     if (exposed.isEmpty()) return;
     // Rendered in the screen's own pixel layout and drawn 1:1, so that drawing is a plain
     // copy. Done in bands: a render of a whole huge canvas takes no huge buffer.

@@ -3,6 +3,7 @@
 #include "platform/picture_box.h"
 
 #include <QImage>
+#include <QPainter>
 #include <QWidget>
 
 namespace platform::qt {
@@ -23,6 +24,7 @@ protected:
 
 private:
     void sendMouse(const PictureBox::MouseHandler& handler, int button, QMouseEvent* event);
+    void paintExposed(QPainter& painter, const QRect& exposed, int inset);
 
     PictureBox& box_;
     QImage shown_; // kept between paints: a stroke repaints many times a second
