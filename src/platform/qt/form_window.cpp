@@ -197,7 +197,6 @@ void FormWindow::buildToolbar(Toolbar& bar) {
     auto* tb = addToolBar(QString::fromStdString(bar.name()));
     tb->setMovable(false);
     tb->setToolButtonStyle(Qt::ToolButtonTextBesideIcon);
-    tb->setIconSize(QSize(16, 16));
     tb->setObjectName(QString::fromStdString(bar.name()));
     for (const Toolbar::Button& b : bar.Buttons) {
         if (b.Key.empty()) {
