@@ -33,16 +33,7 @@ drag() {
     sleep 0.5
 }
 
-# The palette's title sets the surface's top; the tool bar stands at the right edge,
-# 4650 twips down. Both are placed in twips, 15 to the pixel.
-width=$(xdotool getdisplaygeometry | cut -d' ' -f1)
-height=$(xdotool getdisplaygeometry | cut -d' ' -f2)
-palette_left=$(( (width * 15 - 3275 + 7) / 15 ))
-palette_top=$(navy_top $((palette_left + 40)))
-[ -n "$palette_top" ] || fail "the palette is not on the screen"
-surface_top=$((palette_top - 510 / 15))
-bar_left=$(( (width * 15 - 2405 + 7) / 15 ))
-bar_top=$((surface_top + 4650 / 15))
+locate_bars
 navy_at $((bar_left + 2)) $((bar_top + 2)) || fail "the tool bar is not at its place"
 
 # Grabbed 20 pixels into its title and let go over the free form at (300, 600): its

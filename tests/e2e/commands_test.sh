@@ -15,16 +15,7 @@ start_tavrin "$TAVRIN"
 main=$(press_ok)
 open_skin "$main" "$WORK/skin.pcx"
 
-# The palette's title sets the surface's top; the tool bar stands at the right edge,
-# 4650 twips down, the filter bar at the bottom left.
-width=$(xdotool getdisplaygeometry | cut -d' ' -f1)
-height=$(xdotool getdisplaygeometry | cut -d' ' -f2)
-palette_left=$(((width * 15 - 3275 + 7) / 15))
-palette_top=$(navy_top $((palette_left + 40)))
-[ -n "$palette_top" ] || fail "the palette is not on the screen"
-surface_top=$((palette_top - 510 / 15))
-bar_left=$(((width * 15 - 2405 + 7) / 15))
-bar_top=$((surface_top + 4650 / 15))
+locate_bars
 
 # A checksum of a box of the screen, in pixels from the tool bar's corner.
 area() {
@@ -33,7 +24,11 @@ area() {
 }
 status() { area $((195 / 15 + 3)) $((2535 / 15 + 3)) $((1785 / 15 - 6)) $((285 / 15 - 6)); }
 # Away from the buttons first: one under the pointer is drawn raised.
-kinds_area() { xdotool mousemove 5 $((height - 5)); sleep 0.3; area $((800 / 15)) $((200 / 15)) $((780 / 15)) $((750 / 15)); }
+kinds_area() {
+    xdotool mousemove 5 $((height - 5))
+    sleep 0.3
+    area $((800 / 15)) $((200 / 15)) $((780 / 15)) $((750 / 15))
+}
 click_at() { xdotool mousemove "$1" "$2" click 1; sleep 0.4; }
 # A tool button by its place in the tool bar, in twips.
 button() { click_at $((bar_left + ($1 + 217) / 15)) $((bar_top + ($2 + 202) / 15)); }

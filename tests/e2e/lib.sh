@@ -106,6 +106,20 @@ navy_top() {
         awk -F'[,:]' '/#000080/ { print $2; exit }'
 }
 
+# Where the bars stand, in screen pixels: the palette's title sets the surface's top; the
+# tool bar stands at the right edge, 4650 twips down. Sets width, height, palette_left,
+# palette_top, surface_top, bar_left and bar_top.
+locate_bars() {
+    width=$(xdotool getdisplaygeometry | cut -d' ' -f1)
+    height=$(xdotool getdisplaygeometry | cut -d' ' -f2)
+    palette_left=$(((width * 15 - 3275 + 7) / 15))
+    palette_top=$(navy_top $((palette_left + 40)))
+    [ -n "$palette_top" ] || fail "the palette is not on the screen"
+    surface_top=$((palette_top - 510 / 15))
+    bar_left=$(((width * 15 - 2405 + 7) / 15))
+    bar_top=$((surface_top + 4650 / 15))
+}
+
 shot() {
     [ -n "${TAVRIN_SCREENSHOTS:-}" ] || return 0
     xwd -root -silent | convert xwd:- "$TAVRIN_SCREENSHOTS/$1"
