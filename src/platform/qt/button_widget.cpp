@@ -6,6 +6,8 @@
 #include <QFile>
 #include <QFontMetrics>
 
+#include <algorithm>
+
 // The images are linked into the Qt layer's library: Qt finds them once this has run.
 static void initPictures() { Q_INIT_RESOURCE(icons); }
 
@@ -38,15 +40,26 @@ void ButtonWidget::resizeEvent(QResizeEvent* event) {
     fitCaption();
 }
 
+// Buttons of one size side by side take the type that fits the widest caption among
+// them, so that a row of them reads evenly.
 void ButtonWidget::fitCaption() {
-    QString shown = text();
-    shown.remove('&');
+    QList<ButtonWidget*> row;
+    if (parentWidget())
+        for (auto* b : parentWidget()->findChildren<ButtonWidget*>(Qt::FindDirectChildrenOnly))
+            if (b->size() == size()) row.append(b);
+    if (!row.contains(this)) row.append(this);
+    const auto fits = [&](const QFont& type) {
+        const QFontMetrics metrics(type);
+        // The bevel takes two pixels on each side.
+        return std::all_of(row.begin(), row.end(), [&](ButtonWidget* b) {
+            return metrics.horizontalAdvance(b->text().remove('&')) <= width() - 4;
+        });
+    };
     QFont type = QApplication::font(this);
-    // The bevel takes two pixels on each side.
-    while (type.pointSizeF() > kSmallestType &&
-           QFontMetrics(type).horizontalAdvance(shown) > width() - 4)
+    while (type.pointSizeF() > kSmallestType && !fits(type))
         type.setPointSizeF(type.pointSizeF() - 0.5);
-    if (type != font()) setFont(type);
+    for (ButtonWidget* b : row)
+        if (type != b->font()) b->setFont(type);
 }
 
 QIcon pictureIcon(const std::string& name) {
