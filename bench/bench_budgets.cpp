@@ -13,6 +13,8 @@ const std::vector<Budget>& budgets() {
         {"Get_PCX 1024x1024", "Get_PCX/path", "Get_PCX/baseline", 10, false},
         {"ex_Click 1024x1024", "ex_Click/path", "ex_Click/baseline", 10, false},
         {"canvas region, zoom 8", "canvas_region/path", "canvas_region/baseline", 5, false},
+        {"airbrush move at 9 Pixels, zoom 8", "air_move/path", "stroke_move/path", 5, false},
+        {"GetMask 1024x1024 of one colour", "get_mask/path", "get_mask/baseline", 10, false},
         {"first open 440x1024, fresh editor", "first_open/path", "first_open/baseline", 2, false,
          true},
         {"save 1024x1024 to disk", "save/path", "save/baseline", 3, false, true},

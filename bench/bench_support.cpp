@@ -179,4 +179,31 @@ std::vector<int32_t> skinColours() {
     return colours;
 }
 
+Stroke::Stroke(void (*choose)(Editor&)) {
+    e.openBigSkin();
+    e.zoomIn(3);
+    if (choose)
+        choose(e);
+    else
+        e.choosePencil();
+    e.frm.Cur_R = 200;
+    press(100, 100);
+}
+
+void Stroke::press(float x, float y) {
+    e.frm.Picture7.MouseDown(1, 0, x, y);
+    e.frm.Picture7.MouseUp(1, 0, x, y);
+    shown();
+}
+
+void Stroke::move(int64_t i) {
+    e.frm.Picture7.MouseMove(1, 0, at(i, 1920), at(i / 3, 1080));
+    shown();
+}
+
+bool Stroke::painted() const {
+    const FrmMain& f = e.frm;
+    return f.picture1.Point(f.Cur_X, f.Cur_Y) == f.Paint_Color;
+}
+
 } // namespace tavrin::bench

@@ -32,6 +32,29 @@ struct View {
     void show();
 };
 
+// A skin at zoom 8 with a tool chosen (the pencil unless told) and a stroke begun; both
+// views up to date.
+struct Stroke {
+    Editor e;
+    View canvas{e.frm.Picture7}, actual{e.frm.picture1};
+    explicit Stroke(void (*choose)(Editor&) = nullptr);
+    void press(float x, float y);
+    void shown() {
+        canvas.show();
+        actual.show();
+    }
+    bool atZoom8() const { return e.frm.Zoom_Factor.num() == 8; }
+    // The i-th position of a stroke wandering over the visible part of the canvas, a new
+    // skin pixel each time.
+    static float at(int64_t i, int extent) {
+        return static_cast<float>(12 + (i * 8) % (extent - 24));
+    }
+    // The next move of the stroke, shown. False when the tool left nothing of the paint
+    // colour at the pointer.
+    void move(int64_t i);
+    bool painted() const;
+};
+
 // A 1024 x 1024 PCX with the runs of a painted skin: a real skin repeated when the real
 // files are there, else patches of one colour broken by noise. Written once per run,
 // beside the program. Wider than the reader takes whole: its open ends in the failure

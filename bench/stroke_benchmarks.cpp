@@ -13,46 +13,13 @@ namespace {
 using platform::PictureBox;
 using platform::PixelRect;
 
-// A skin at zoom 8 with the pencil chosen and a stroke begun; both views up to date.
-struct Stroke {
-    Editor e;
-    View canvas{e.frm.Picture7}, actual{e.frm.picture1};
-    Stroke() {
-        e.openBigSkin();
-        e.zoomIn(3);
-        e.choosePencil();
-        e.frm.Cur_R = 200;
-        press(100, 100);
-    }
-    void press(float x, float y) {
-        e.frm.Picture7.MouseDown(1, 0, x, y);
-        e.frm.Picture7.MouseUp(1, 0, x, y);
-        shown();
-    }
-    void shown() {
-        canvas.show();
-        actual.show();
-    }
-    bool atZoom8() const { return e.frm.Zoom_Factor.num() == 8; }
-    // The i-th position of a stroke wandering over the visible part of the canvas, a new
-    // skin pixel each time.
-    static float at(int64_t i, int extent) {
-        return static_cast<float>(12 + (i * 8) % (extent - 24));
-    }
-};
-
 void strokeMove(benchmark::State& state) {
     Stroke s;
     if (!s.atZoom8()) state.SkipWithError("not at zoom 8");
     int64_t i = 0;
-    for (auto _ : state) {
-        s.e.frm.Picture7.MouseMove(1, 0, Stroke::at(i, 1920), Stroke::at(i / 3, 1080));
-        s.shown();
-        ++i;
-    }
-    const FrmMain& f = s.e.frm;
-    if (f.picture1.Point(f.Cur_X, f.Cur_Y) != f.Paint_Color)
-        state.SkipWithError("the pencil painted nothing");
+    for (auto _ : state)
+        s.move(i++);
+    if (!s.painted()) state.SkipWithError("the pencil painted nothing");
 }
 BENCHMARK(strokeMove)->Name("stroke_move/path");
 

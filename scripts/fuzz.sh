@@ -1,10 +1,14 @@
 #!/bin/sh
-# Builds the libFuzzer targets with clang (ASan + UBSan) and runs each for a bounded time.
-# Fails on any crash, sanitizer report, leak, slow input or out-of-memory; the inputs
-# that did it are listed, to be kept in tests/data/regressions/<target>/.
+# Builds the libFuzzer targets with clang (ASan + UBSan) and runs each for a bounded time,
+# or in the long mode to a number of inputs. Fails on any crash, sanitizer report, leak,
+# slow input, out-of-memory or check that finds fault; the inputs that did it are listed,
+# to be kept in tests/data/regressions/<target>/.
+#
+#   scripts/fuzz.sh            each target for TAVRIN_FUZZ_SECONDS (the test command's run)
+#   scripts/fuzz.sh long [N]   each target to N inputs (default 1000000), with no time limit
 #
 #   TAVRIN_FUZZ_SECONDS   seconds per target (default 30)
-#   TAVRIN_FUZZ_TARGETS   which targets (default: all of them)
+#   TAVRIN_FUZZ_TARGETS   which targets (default: all in the table below)
 #   TAVRIN_FUZZ_DIR       scratch folder for corpora and findings, kept between runs so
 #                         the corpora grow (default $TMPDIR/tavrin-fuzz)
 #   TAVRIN_FUZZ_ARGS      more libFuzzer options, e.g. "-max_len=4096"
@@ -12,8 +16,27 @@
 set -eu
 cd "$(dirname "$0")/.."
 src="$(pwd)"
-seconds="${TAVRIN_FUZZ_SECONDS:-30}"
-targets="${TAVRIN_FUZZ_TARGETS:-pcx pal md2_frame md2_import text_palette bmp}"
+
+# One line a target: fuzz_<name>, then what seeds its corpus: endings (any case) of the
+# files under tests/data and the real data, or files of the source tree by path.
+TABLE='
+pcx          .pcx
+pal          .pcx .pal .act data/Quake2.PAL
+md2_frame    .md2
+md2_import   .md2
+pcx_runs     .pcx
+md2_format   .md2
+md2_mesh     .md2
+raw_palette  .pcx .pal .act data/Quake2.PAL
+text_palette .pal
+bmp          .bmp
+'
+
+limit="-max_total_time=${TAVRIN_FUZZ_SECONDS:-30}"
+if [ "${1:-}" = long ]; then
+    limit="-runs=${2:-1000000}"
+fi
+targets="${TAVRIN_FUZZ_TARGETS:-$(echo "$TABLE" | awk 'NF { print $1 }')}"
 work="${TAVRIN_FUZZ_DIR:-${TMPDIR:-/tmp}/tavrin-fuzz}"
 realdata="${TAVRIN_REALDATA:-$src/../shared/realdata}"
 
@@ -23,12 +46,29 @@ CXX=clang++ CC=clang cmake -S . -B build-fuzz -DCMAKE_BUILD_TYPE=RelWithDebInfo 
 # shellcheck disable=SC2086 # one word a target
 cmake --build build-fuzz -j"$(nproc)" $(for t in $targets; do printf -- '--target fuzz_%s ' "$t"; done)
 
-# Copies the files under a folder whose names end in the given ending (any case) into a
-# corpus, each named by its contents, as libFuzzer names what it adds.
-seed() { # corpus folder ending
-    [ -d "$2" ] || return 0
-    find "$2" -type f -iname "*$3" | while IFS= read -r f; do
-        cp "$f" "$1/$(sha1sum <"$f" | cut -c1-40)"
+# Copies files into a corpus, each named by its contents, as libFuzzer names what it adds:
+# those under the folders whose names end in the ending (any case), or the one file.
+seed() { # corpus ending-or-path folder...
+    corpus="$1" what="$2"
+    shift 2
+    case "$what" in
+    .*) for folder in "$@"; do
+            [ -d "$folder" ] && find "$folder" -type f -iname "*$what" -not -path '*/regressions/*'
+        done ;;
+    *) echo "$what" ;;
+    esac | while IFS= read -r f; do
+        cp "$f" "$corpus/$(sha1sum <"$f" | cut -c1-40)"
+    done
+}
+
+# No bitmaps lie among the test files: a few of each kind are made here.
+bitmap_seeds() { # corpus
+    command -v convert >/dev/null || return 0
+    for kind in "-type truecolor" "-type palette" "-type palette -compress none" \
+                "-colors 8 -type palette -depth 4" "-monochrome"; do
+        # shellcheck disable=SC2086 # one option a word
+        convert -size 13x7 plasma:fractal -seed 1 $kind "BMP3:$work/tmp/seed.bmp" &&
+            cp "$work/tmp/seed.bmp" "$1/$(sha1sum <"$work/tmp/seed.bmp" | cut -c1-40)"
     done
 }
 
@@ -39,37 +79,34 @@ for t in $targets; do
     rm -rf "$found" "$work/tmp"
     mkdir -p "$corpus" "$found" "$work/tmp"
     # Earlier findings too: every run tries them again first.
-    seed "$corpus" tests/data/regressions/"$t" ""
-    case "$t" in
-    pcx) seed "$corpus" tests/data .pcx && seed "$corpus" "$realdata" .pcx ;;
-    pal) cp data/Quake2.PAL "$corpus/" && seed "$corpus" tests/data .pcx &&
-         seed "$corpus" "$realdata/palettes" "" ;;
-    md2_*) seed "$corpus" tests/data .md2 && seed "$corpus" "$realdata/md2" .md2 ;;
-    text_palette) seed "$corpus" "$realdata/palettes" .pal ;;
-    bmp) if command -v convert >/dev/null; then # a few bitmaps of each kind, made here
-             for kind in "-type truecolor" "-type palette" "-type palette -compress none" \
-                         "-colors 8 -type palette -depth 4" "-monochrome"; do
-                 # shellcheck disable=SC2086 # one option a word
-                 convert -size 13x7 plasma:fractal -seed 1 $kind "BMP3:$work/tmp/seed.bmp" &&
-                     cp "$work/tmp/seed.bmp" "$corpus/$(sha1sum <"$work/tmp/seed.bmp" | cut -c1-40)"
-             done
-         fi ;;
-    esac
+    for f in tests/data/regressions/"$t"/*; do
+        [ -f "$f" ] && seed "$corpus" "$f"
+    done
+    seeds="$(echo "$TABLE" | awk -v t="$t" '$1 == t { $1 = ""; print }')"
+    [ -n "$seeds" ] || { echo "fuzz.sh: no target $t in the table" >&2; exit 2; }
+    for s in $seeds; do
+        seed "$corpus" "$s" tests/data "$realdata"
+    done
+    [ "$t" != bmp ] || bitmap_seeds "$corpus"
 
-    echo "== fuzz_$t: $seconds s, corpus $corpus"
+    echo "== fuzz_$t: $limit, corpus $corpus"
     rc=0
+    started=$(date +%s)
     # shellcheck disable=SC2086 # TAVRIN_FUZZ_ARGS is a list of options
     TMPDIR="$work/tmp" \
     ASAN_OPTIONS="quarantine_size_mb=16:detect_leaks=1" \
     UBSAN_OPTIONS="print_stacktrace=1:halt_on_error=1" \
-        build-fuzz/fuzz_"$t" -max_total_time="$seconds" -timeout=10 \
+        build-fuzz/fuzz_"$t" "$limit" -timeout=10 \
             -rss_limit_mb=512 -malloc_limit_mb=512 -print_final_stats=1 \
             -artifact_prefix="$found/" ${TAVRIN_FUZZ_ARGS:-} "$corpus" >"$log" 2>&1 || rc=$?
+    seconds=$(($(date +%s) - started))
     execs="$(sed -n 's/^stat::number_of_executed_units: *//p' "$log" | tail -n 1)"
     # With -fork the count stands only in the progress lines.
-    [ -n "$execs" ] || execs="$(sed -n 's/^#\([0-9]*\): cov:.*/\1/p' "$log" | tail -n 1)"
+    [ -n "$execs" ] || execs="$(sed -n 's/^#\([0-9]*\).*cov:.*/\1/p' "$log" | tail -n 1)"
+    rate="$(sed -n 's/^stat::average_exec_per_sec: *//p' "$log" | tail -n 1)"
+    cov="$(sed -n 's/^#[0-9]*.*cov: \([0-9]*\) ft: \([0-9]*\) corp: \([0-9]*\).*/\1 edges, \2 features, \3 inputs kept/p' "$log" | tail -n 1)"
     rss="$(sed -n 's/^stat::peak_rss_mb: *//p' "$log" | tail -n 1)"
-    line="fuzz_$t: ${execs:-?} executions, peak RSS ${rss:-?} MB"
+    line="fuzz_$t: ${execs:-?} executions in $seconds s (${rate:-?} a second), coverage ${cov:-?}, peak RSS ${rss:-?} MB"
     if [ "$rc" -ne 0 ] || [ -n "$(ls -A "$found")" ] || grep -qE 'ERROR: (libFuzzer|AddressSanitizer|LeakSanitizer)|runtime error:' "$log"; then
         status=1
         line="$line: FAILED (exit $rc)"

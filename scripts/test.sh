@@ -3,6 +3,7 @@
 # end-to-end tests under Xvfb, the speed budgets and the peak memory, the core tests again
 # under AddressSanitizer and UndefinedBehaviorSanitizer, clang-tidy, and every file reader
 # fuzzed for a while (scripts/fuzz.sh; TAVRIN_FUZZ_SECONDS per target).
+# The Qt tests and the monkey in the real program run under both sanitizers as well.
 set -eu
 cd "$(dirname "$0")/.."
 scripts/setup.sh
@@ -23,6 +24,14 @@ cmake -S . -B build-asan -DCMAKE_BUILD_TYPE=Debug -DTAVRIN_SANITIZE=ON -DTAVRIN_
 cmake --build build-asan -j"$jobs"
 (cd build-asan && ASAN_OPTIONS=detect_leaks=1 UBSAN_OPTIONS=print_stacktrace=1 \
      ctest --output-on-failure -j"$jobs")
+
+# The Qt layer under the sanitizers too: its widget tests, and the real program with the
+# monkey that activates every command it finds on the window.
+cmake -S . -B build-asan-qt -DCMAKE_BUILD_TYPE=Debug -DTAVRIN_SANITIZE=ON -DTAVRIN_QT=ON \
+      -DTAVRIN_BENCH=OFF -DTAVRIN_WERROR=ON >/dev/null
+cmake --build build-asan-qt -j"$jobs" --target tavrin tavrin_monkey tavrin_qt_tests
+(cd build-asan-qt && ASAN_OPTIONS=detect_leaks=1 QT_QPA_PLATFORM=offscreen tests/tavrin_qt_tests &&
+     ctest --output-on-failure -R '^e2e_monkey$')
 
 # clang-tidy runs beside the fuzzers, which keep one processor busy at a time.
 TAVRIN_TIDY_JOBS=1 scripts/lint.sh tidy build-test &

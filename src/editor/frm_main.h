@@ -24,6 +24,7 @@ class FrmPrint;     // shell/frm_print.h
 namespace filters { // filters/work_buf_kernels.h
 struct GridCells;
 struct PassArea;
+struct PassPlan;
 enum class Kernel : int;
 } // namespace filters
 
@@ -163,6 +164,8 @@ private:
     filters::GridCells gridCells();
     // Pixels x to x + count - 1 of row y on picture1, as PSet sets them one at a time.
     void setPictureRow(int64_t x, int64_t y, const int32_t* colors, int64_t count);
+    // The same pixels as Point reads them one at a time: -1 off the picture.
+    void getPictureRow(int64_t x, int64_t y, int32_t* colors, int64_t count) const;
 
     // ---------------- shell/shape_select.cpp ----------------
     // "Box" with the filter word: the next box dragged runs that filter.
@@ -175,20 +178,32 @@ private:
     void runBoxFilter();
     // The filter over the sorted box of Band_X, Band_Y, Cur_X, Cur_Y, then the canvas.
     void filterBox(filters::Kernel kernel);
-    // The two passes through Work_Buf: the first copies the colours of `first` in, the
-    // second works out each pixel of `second` by `kernel` and writes it to picture1 and
-    // the grid, matched to the palette when `match`, picture1 refreshed after each row
-    // when `refreshRows`. The brushes that smooth or tint use it on their squares.
-    void workBufPasses(const filters::PassArea& first, const filters::PassArea& second,
-                       filters::Kernel kernel, bool match, bool refreshRows);
+    // The two passes through Work_Buf of the plan; the fields they use as work fields
+    // (Color_Index, Check_Color, the match's, and Cur_Color for a pass from the picture)
+    // left as the last pixel left them. The brushes that smooth use it on their squares.
+    void workBufPasses(const filters::PassPlan& plan);
 
     // ---------------- tools/paint_brushes.cpp, zoom.cpp ----------------
     void pencilAt(float X, float Y);
     void paintBrushAt(float X, float Y);
     // Color_Index into the skin pixel's cell; raises outside the array's bounds.
     void storeSkinPixel(double x, double y);
+    void storeSkinPixel(double x, double y, const Variant& index);
     void setBrushSize(bool ninePixels);
     void zoomStep(int16_t Button);
+
+    // ---------------- tools/soft_brushes.cpp ----------------
+    // The branches of "Air", "Blur", "dTtint" and "Fill" at the converted Cur_X, Cur_Y.
+    void airBrushAt(float X, float Y);
+    void blurBrushAt();
+    void tintBrushAt();
+    void fillAt();
+
+    // ---------------- filters/color_mask.cpp ----------------
+    // The walk over the list from Mask_Pos on: each listed pixel set on Picture26.
+    void drawMaskPreview();
+    // Every listed pixel of picture1 in the colour, and its cell the colour's index.
+    void applyMask(int32_t color);
 
     // ---------------- tools/text_tool.cpp ----------------
     // A press of the text tool: keeps the pixel and opens the panel.

@@ -9,9 +9,21 @@ int32_t cellValue(double index) {
     return r >= -32768 && r <= 32767 ? static_cast<int32_t>(r) : kNoCell;
 }
 
+namespace {
+// Twice as many slots as pixels, within the bounds.
+int tableBits(std::size_t pixels, int least, int most) {
+    int bits = least;
+    while (bits < most && (std::size_t{1} << bits) < 2 * pixels)
+        ++bits;
+    return bits;
+}
+} // namespace
+
 PassMatcher::PassMatcher(MatchCache& cache, const vb::Array<PalRecord>& table,
-                         const MatchFields& fields)
-    : cache_(cache), table_(table), f_(fields), value_(cellValue(fields.index)) {}
+                         const MatchFields& fields, std::size_t pixels)
+    : cache_(cache), table_(table), f_(fields), value_(cellValue(fields.index)),
+      bits_(tableBits(pixels, kLeastBits, kBits)), hot_(std::size_t{1} << bits_),
+      whole_(std::size_t{1} << bits_) {}
 
 void PassMatcher::settleNear() {
     if (!unsettled_) return;

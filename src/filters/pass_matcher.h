@@ -25,7 +25,10 @@ int32_t cellValue(double index);
 
 class PassMatcher {
 public:
-    PassMatcher(MatchCache& cache, const vb::Array<PalRecord>& table, const MatchFields& fields);
+    // pixels: about how many pixels the pass has; a brush's few dozen get small tables,
+    // whose clearing would otherwise cost more than their matches.
+    PassMatcher(MatchCache& cache, const vb::Array<PalRecord>& table, const MatchFields& fields,
+                std::size_t pixels = std::size_t{1} << 20);
 
     // For each pixel: Check_Color takes packed[i] unless that is -1 (it couldn't be
     // packed), then, when `match`, the match runs; colors[i] is Check_Color and cells[i]
@@ -45,24 +48,25 @@ private:
         uint16_t check = kEmpty; // the answer's colour, as its place in checks_
     };
     static constexpr uint16_t kEmpty = 0xFFFF;
-    static std::size_t slot(int32_t color) {
-        return (static_cast<uint32_t>(color) * 2654435761u) >> (32 - kBits);
+    std::size_t slot(int32_t color) const {
+        return (static_cast<uint32_t>(color) * 2654435761u) >> (32 - bits_);
     }
     // The near fields of the last answer taken from the hot table, from its whole answer.
     void settleNear();
     void miss();
 
-    static constexpr int kBits = 13;
+    static constexpr int kBits = 13, kLeastBits = 6;
     MatchCache& cache_;
     const vb::Array<PalRecord>& table_;
     MatchFields f_;
     int32_t value_; // cellValue(f_.index)
+    int bits_;      // the tables hold 2^bits_ answers
     bool unsettled_ = false;
     int32_t unsettledColor_ = 0;
-    std::vector<Hot> hot_ = std::vector<Hot>(std::size_t{1} << kBits);
+    std::vector<Hot> hot_;
     std::vector<int32_t> checks_; // the colours answers gave, each once
     std::unordered_map<int32_t, uint16_t> checkIds_;
-    std::vector<MatchResult> whole_ = std::vector<MatchResult>(std::size_t{1} << kBits);
+    std::vector<MatchResult> whole_;
 };
 
 } // namespace tavrin::filters

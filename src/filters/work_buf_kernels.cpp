@@ -1,5 +1,7 @@
 #include "filters/work_buf_kernels.h"
 
+#include "filters/picture_passes.h"
+
 #include "platform/vb_numeric.h"
 
 #include <algorithm>
@@ -379,7 +381,7 @@ void tintRow(const WorkPlanes& work, const TintShare& share, int64_t y, int64_t 
 }
 
 void kernelRow(Kernel kernel, const WorkPlanes& work, const TintShare& share, int64_t y, int64_t x0,
-               int64_t x1, Channels& values, int32_t* out) {
+               int64_t x1, Channels& values, int32_t* out, const Uniform& next) {
     switch (kernel) {
     case Kernel::Sharpen:
         sharpenRow(work, y, x0, x1, values, out);
@@ -395,6 +397,9 @@ void kernelRow(Kernel kernel, const WorkPlanes& work, const TintShare& share, in
         break;
     case Kernel::Tint:
         tintRow(work, share, y, x0, x1, values, out);
+        break;
+    case Kernel::Diffuse:
+        diffuseRow(work, next, y, x0, x1, values, out);
         break;
     }
 }

@@ -9,6 +9,7 @@
 
 #include <array>
 #include <cstdint>
+#include <functional>
 #include <vector>
 
 namespace tavrin::filters {
@@ -36,7 +37,7 @@ struct PassArea {
 };
 
 // What a second pass works out.
-enum class Kernel : int { Sharpen, Lighten, Blur, Emboss, Tint };
+enum class Kernel : int { Sharpen, Lighten, Blur, Emboss, Tint, Diffuse };
 
 // Red, green, blue as they pass from one pixel to the next.
 using Channels = std::array<double, 3>;
@@ -98,12 +99,27 @@ struct TintShare {
 void tintRow(const WorkPlanes& work, const TintShare& share, int64_t y, int64_t x0, int64_t x1,
              Channels& values, int32_t* out);
 
-// The second pass of `kernel` over pixels x0..x1 of row y (share: Tint's only).
+// The uniform generator in [0, 1) that Diffuse draws its offsets from.
+using Uniform = std::function<float()>;
+
+// The second pass of `kernel` over pixels x0..x1 of row y (share: Tint's only; next:
+// Diffuse's only).
 void kernelRow(Kernel kernel, const WorkPlanes& work, const TintShare& share, int64_t y, int64_t x0,
-               int64_t x1, Channels& values, int32_t* out);
+               int64_t x1, Channels& values, int32_t* out, const Uniform& next = {});
 
 // The values rounded to 16-bit whole numbers (half to even) and packed, a channel above
 // 255 as 255; -1 where a value doesn't fit in 16 bits or is negative.
 int32_t packChannels(const Channels& values);
+
+// Two passes through Work_Buf: the first copies the colours of `first` in, from the grid
+// and the palette or from the picture; the second works out each pixel of `second` by
+// `kernel`, matched to the palette when `match`, and writes the picture and the grid.
+struct PassPlan {
+    PassArea first, second;
+    Kernel kernel;
+    bool match = true;
+    bool fromPicture = false;
+    bool refreshFirst = false, refreshSecond = false; // picture1 refreshed after each row
+};
 
 } // namespace tavrin::filters

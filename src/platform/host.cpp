@@ -4,9 +4,24 @@
 
 namespace platform {
 
+namespace {
+constexpr uint32_t kRndFactor = 0x43FD43FDu, kRndStep = 0xC39EC3u, kRndMask = 0xFFFFFFu;
+} // namespace
+
 double Host::Rnd() {
-    rndState_ = (rndState_ * 0x43FD43FDu + 0xC39EC3u) & 0xFFFFFFu;
+    rndState_ = (rndState_ * kRndFactor + kRndStep) & kRndMask;
     return static_cast<double>(rndState_) / 16777216.0;
+}
+
+// n steps of s -> a s + c are one step of s -> A s + C; the pair for 2n is the pair for n
+// applied twice, so the count is taken a bit at a time.
+void Host::skipRnd(uint64_t count) {
+    uint32_t factor = kRndFactor, step = kRndStep;
+    for (; count != 0; count >>= 1) {
+        if (count & 1) rndState_ = (rndState_ * factor + step) & kRndMask;
+        step = (step * (factor + 1)) & kRndMask;
+        factor = (factor * factor) & kRndMask;
+    }
 }
 
 void showOpen(Host& host, CommonDialog& dialog) {

@@ -69,6 +69,9 @@ public:
     // The runtime's uniform generator in [0, 1), never seeded: every run gives the
     // same sequence.
     double Rnd();
+    // Moves the generator on as `count` calls of Rnd would, at once: the pixels of a
+    // filter that lie far off the skin still draw their numbers.
+    void skipRnd(uint64_t count);
 
 private:
     uint32_t rndState_ = 0x50000;

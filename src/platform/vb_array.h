@@ -9,6 +9,8 @@
 #include <algorithm>
 #include <cstdint>
 #include <cstdlib>
+#include <cstring>
+#include <iterator>
 #include <new>
 #include <type_traits>
 #include <utility>
@@ -16,7 +18,7 @@
 
 namespace vb {
 
-// Gives arrays their memory already zeroed by calloc: a fresh grid of megabytes costs
+// Gives vectors their memory already zeroed by calloc: a fresh picture of megabytes costs
 // nothing until it is touched, instead of a pass writing zeros over it. A number is
 // "constructed" by leaving calloc's zero, so such a vector is made at its size once and
 // never grown into memory it used before.
@@ -41,6 +43,78 @@ template <class T> struct ZeroedAllocator {
 
 template <class T> using ZeroedVector = std::vector<T, ZeroedAllocator<T>>;
 
+// The elements of an array in memory zeroed by calloc, made and dropped without a pass
+// over the elements: a fresh grid of megabytes costs nothing until it is touched (and in
+// an instrumented build a loop over every cell of a hostile header's grid is most of the
+// time). The elements are plain data whose default is all zero bytes, as every number
+// and every record of the editor is; a type whose default isn't gets it written in.
+template <class T> class ZeroedBuffer {
+    static_assert(std::is_trivially_copyable_v<T> && std::is_trivially_destructible_v<T>);
+
+public:
+    ZeroedBuffer() = default;
+    explicit ZeroedBuffer(std::size_t count) : data_(allocate(count, true)), size_(count) {
+        if (!zeroIsDefault())
+            for (std::size_t k = 0; k < count; ++k)
+                ::new (static_cast<void*>(data_ + k)) T();
+    }
+    ZeroedBuffer(const ZeroedBuffer& other)
+        : data_(allocate(other.size_, false)), size_(other.size_) {
+        if (size_ > 0) std::memcpy(static_cast<void*>(data_), other.data_, size_ * sizeof(T));
+    }
+    ZeroedBuffer(ZeroedBuffer&& other) noexcept
+        : data_(std::exchange(other.data_, nullptr)), size_(std::exchange(other.size_, 0)) {}
+    ZeroedBuffer& operator=(ZeroedBuffer other) noexcept {
+        swap(other);
+        return *this;
+    }
+    ~ZeroedBuffer() { std::free(data_); }
+
+    void swap(ZeroedBuffer& other) noexcept {
+        std::swap(data_, other.data_);
+        std::swap(size_, other.size_);
+    }
+    // Every element back to its default.
+    void clear() {
+        if (zeroIsDefault()) {
+            if (size_ > 0) std::memset(static_cast<void*>(data_), 0, size_ * sizeof(T));
+        } else {
+            std::fill(data_, data_ + size_, T{});
+        }
+    }
+
+    T* data() { return data_; }
+    const T* data() const { return data_; }
+    std::size_t size() const { return size_; }
+    T& operator[](std::size_t k) { return data_[k]; }
+    const T& operator[](std::size_t k) const { return data_[k]; }
+
+private:
+    static T* allocate(std::size_t count, bool zeroed) {
+        if (count == 0) return nullptr;
+        void* p = zeroed ? std::calloc(count, sizeof(T)) : std::malloc(count * sizeof(T));
+        if (!p) throw std::bad_alloc();
+        return static_cast<T*>(p);
+    }
+    static bool zeroIsDefault() {
+        if constexpr (std::is_arithmetic_v<T>) {
+            return true;
+        } else {
+            static const bool zero = [] {
+                const T value{};
+                unsigned char bytes[sizeof(T)];
+                std::memcpy(bytes, &value, sizeof(T));
+                return std::all_of(std::begin(bytes), std::end(bytes),
+                                   [](unsigned char b) { return b == 0; });
+            }();
+            return zero;
+        }
+    }
+
+    T* data_ = nullptr;
+    std::size_t size_ = 0;
+};
+
 template <class T> class Array {
 public:
     Array() = default;
@@ -51,10 +125,10 @@ public:
         if (upper < lower) raise(SubscriptOutOfRange);
         auto count = static_cast<std::size_t>(upper - lower + 1);
         if (allocated_ && count == data_.size()) {
-            std::fill(data_.begin(), data_.end(), T{}); // memory already mapped costs less
+            data_.clear(); // memory already mapped costs less
         } else {
             Reservation memory(count, sizeof(T)); // a failure keeps what was held
-            ZeroedVector<T>(count).swap(data_);
+            ZeroedBuffer<T>(count).swap(data_);
             memory_ = std::move(memory);
         }
         lower_ = lower;
@@ -63,7 +137,7 @@ public:
     }
 
     void Erase() {
-        ZeroedVector<T>().swap(data_);
+        ZeroedBuffer<T>().swap(data_);
         memory_ = Reservation();
         allocated_ = false;
         lower_ = 0;
@@ -100,7 +174,7 @@ private:
     }
 
     Reservation memory_; // before data_, so a copy is counted before it is made
-    ZeroedVector<T> data_;
+    ZeroedBuffer<T> data_;
     int64_t lower_ = 0;
     int64_t upper_ = -1;
     bool allocated_ = false;
@@ -112,7 +186,7 @@ public:
     Array3(int64_t n0, int64_t n1, int64_t n2) : n0_(n0), n1_(n1), n2_(n2) {
         auto count = static_cast<std::size_t>(n0 * n1 * n2);
         memory_ = Reservation(count, sizeof(T));
-        ZeroedVector<T>(count).swap(data_); // 13.5 MB for Work_Buf: untouched pages cost nothing
+        ZeroedBuffer<T>(count).swap(data_); // 13.5 MB for Work_Buf: untouched pages cost nothing
     }
 
     template <class I, class J, class K> T& operator()(I i, J j, K k) {
@@ -143,7 +217,7 @@ private:
 
     int64_t n0_, n1_, n2_;
     Reservation memory_;
-    ZeroedVector<T> data_;
+    ZeroedBuffer<T> data_;
 };
 
 } // namespace vb

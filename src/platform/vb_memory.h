@@ -5,13 +5,19 @@
 // ends in the loader's message instead of gigabytes taken, one array at a time.
 #include "platform/vb_error.h"
 
+#include <algorithm>
 #include <cstddef>
 #include <utility>
 
 namespace vb {
 
-inline constexpr std::size_t kMaxAllocationBytes = std::size_t{256} << 20;
-inline constexpr std::size_t kMaxLiveBytes = std::size_t{384} << 20;
+#ifndef TAVRIN_MAX_LIVE_MB
+#define TAVRIN_MAX_LIVE_MB 384
+#endif
+// A fuzz build sets a smaller machine (TAVRIN_MAX_LIVE_MB): a hostile header is refused
+// at a few megabytes instead of being given hundreds to fill, input after input.
+inline constexpr std::size_t kMaxLiveBytes = std::size_t{TAVRIN_MAX_LIVE_MB} << 20;
+inline constexpr std::size_t kMaxAllocationBytes = std::min(std::size_t{256} << 20, kMaxLiveBytes);
 
 // Raises OutOfMemory when count elements of elementSize bytes pass either limit.
 void checkAllocation(std::size_t count, std::size_t elementSize);

@@ -23,6 +23,7 @@ void FrmMain::PALE_Click() { toggleFromMenu(PALE, SSPanel1); }
 void FrmMain::ActualPixels_Click() { toggleFromMenu(ActualPixels, SSPanel11); }
 void FrmMain::ToolBar_Click() { toggleFromMenu(ToolBar, SSPanel13); }
 void FrmMain::fil_Click() { toggleFromMenu(fil, SSPanel15); }
+void FrmMain::Mask_Click() { toggleFromMenu(Mask, SSPanel7); }
 
 void FrmMain::SSCommand8_Click() {
     SSPanel1.Visible = false;

@@ -85,5 +85,7 @@ void FrmMain::Emboss_Click() { chooseFilter("Emboss"); }
 void FrmMain::SSCommand38_Click() { chooseFilter("Emboss"); }
 void FrmMain::Tint_Click() { chooseFilter("Tint"); }
 void FrmMain::SSCommand36_Click() { chooseFilter("Tint"); }
+void FrmMain::Diffuse_Click() { chooseFilter("Diffuse"); }
+void FrmMain::SSCommand43_Click() { chooseFilter("Diffuse"); }
 
 } // namespace tavrin

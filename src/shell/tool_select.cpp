@@ -74,4 +74,54 @@ void FrmMain::SSCommand32_Click() {
     Paint_Shade = 1;
 }
 
+// The soft brushes. The menu items leave the brush kinds panel open, but for the tint
+// brush's, and name the tools in their own words.
+void FrmMain::AirBrush_Click() {
+    Tool_Mode = "Air";
+    SSPanel3.Caption = "Air Brush";
+}
+
+void FrmMain::SSCommand13_Click() {
+    SSPanel2.Visible = false;
+    Tool_Mode = "Air";
+    SSPanel3.Caption = "Airbrush Tool";
+}
+
+void FrmMain::BlurBrush_Click() {
+    Tool_Mode = "Blur";
+    SSPanel3.Caption = "Blurring Brush Tool";
+}
+
+void FrmMain::SSCommand16_Click() {
+    SSPanel2.Visible = false;
+    Tool_Mode = "Blur";
+    SSPanel3.Caption = "Blurring Brush Tool";
+}
+
+// Neither way to the tint brush names it: SSPanel3 keeps the last tool's name. Meant.
+void FrmMain::tnnt_Click() {
+    Tool_Mode = "dTtint";
+    SSPanel2.Visible = false;
+}
+
+void FrmMain::SSCommand33_Click() {
+    SSPanel2.Visible = false;
+    Tool_Mode = "dTtint";
+}
+
+// The colour replace has no menu item: a click with it lists the clicked colour's pixels.
+void FrmMain::SSCommand15_Click() {
+    SSPanel2.Visible = false;
+    Tool_Mode = "Mask";
+    SSPanel3.Caption = "Color Mask";
+}
+
+// Offered in the Tools menu, though it still says it is for the next version: the fill
+// paints a cross, not an area.
+void FrmMain::mFill_Click() {
+    host_.MsgBox("NEXT BETA!", platform::kStyleOk);
+    Tool_Mode = "Fill";
+    SSPanel3.Caption = "Fill Area";
+}
+
 } // namespace tavrin

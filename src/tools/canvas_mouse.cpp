@@ -97,7 +97,8 @@ void FrmMain::Picture7_MouseDown(int16_t Button, int16_t Shift, float X, float Y
         if (pressNearCanvasEdge(X, Y)) return;
 
         if (Tool_Mode == "Mask") {
-            // The colour mask's GetMask runs here.
+            Cur_Color = Picture7.Point(X, Y);
+            GetMask();
         } else if (Tool_Mode == "Extract") {
             eyeDropperPick(X, Y);
         } else if (Tool_Mode == "Line" || Tool_Mode == "Box") {
@@ -111,9 +112,18 @@ void FrmMain::Picture7_MouseDown(int16_t Button, int16_t Shift, float X, float Y
         } else if (Tool_Mode == "dPaint" || Tool_Mode == "lPaint") {
             // No conversion: the brush stands where the last move left Cur_X, Cur_Y.
             paintBrushAt(X, Y);
-        } else if (Tool_Mode == "Blur" || Tool_Mode == "Fill" || Tool_Mode == "Air" ||
-                   Tool_Mode == "dTtint") {
-            convertPosition(X, Y); // the tools of these words are still to come
+        } else if (Tool_Mode == "Blur") {
+            convertPosition(X, Y);
+            blurBrushAt();
+        } else if (Tool_Mode == "Fill") {
+            convertPosition(X, Y);
+            fillAt();
+        } else if (Tool_Mode == "Air") {
+            convertPosition(X, Y);
+            airBrushAt(X, Y);
+        } else if (Tool_Mode == "dTtint") {
+            convertPosition(X, Y);
+            tintBrushAt();
         } else if (Tool_Mode == "Text") {
             convertPosition(X, Y);
             placeText();
@@ -153,10 +163,16 @@ void FrmMain::Picture7_MouseMove(int16_t Button, int16_t Shift, float X, float Y
             rubberBand();
         } else if (Tool_Mode == "Draw") {
             pencilAt(X, Y);
+        } else if (Tool_Mode == "Blur") {
+            blurBrushAt();
+        } else if (Tool_Mode == "Air") {
+            airBrushAt(X, Y);
+        } else if (Tool_Mode == "dTtint") {
+            tintBrushAt();
         } else if (Tool_Mode == "dPaint" || Tool_Mode == "lPaint") {
             paintBrushAt(X, Y);
-        } else if (Tool_Mode != "Blur" && Tool_Mode != "Air" && Tool_Mode != "dTtint") {
-            return; // other words do nothing and repaint nothing; these tools are to come
+        } else {
+            return; // other words do nothing and repaint nothing
         }
         repaintCanvas();
     } catch (const vb::Error&) {

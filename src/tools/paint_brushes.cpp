@@ -9,11 +9,13 @@ namespace tavrin {
 // The array's bound is the only check the frame knows: a position outside it raises and
 // ends the event. A column left or right of the skin still lands inside the array, in a
 // neighbouring row; that cell is left alone rather than painted from the wrong side.
-void FrmMain::storeSkinPixel(double x, double y) {
+void FrmMain::storeSkinPixel(double x, double y, const Variant& index) {
     int16_t& cell = Skin_Grid(y * Skin_Width.num() + x);
     if (x < 0 || x >= Skin_Width.num() || y < 0 || y >= Skin_Height.num()) return;
-    cell = vb::CInt(Color_Index);
+    cell = vb::CInt(index);
 }
+
+void FrmMain::storeSkinPixel(double x, double y) { storeSkinPixel(x, y, Color_Index); }
 
 // The mask is tested against the canvas pixel under the pointer; an off mask (0.1)
 // never matches.

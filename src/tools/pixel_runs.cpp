@@ -3,6 +3,7 @@
 #include "editor/frm_main.h"
 #include "filters/work_buf_kernels.h"
 
+#include <algorithm>
 #include <cmath>
 
 namespace tavrin {
@@ -40,6 +41,26 @@ filters::GridCells FrmMain::gridCells() {
     vb::resume([&] { g.width = Skin_Width.num(); });
     vb::resume([&] { g.height = Skin_Height.num(); });
     return g;
+}
+
+void FrmMain::getPictureRow(int64_t x, int64_t y, int32_t* colors, int64_t count) const {
+    if (!picture1.pixelScale()) {
+        for (int64_t i = 0; i < count; ++i) {
+            colors[i] = -1; // a position past the runtime's range reads as off the picture
+            vb::resume([&] {
+                colors[i] = picture1.Point(static_cast<double>(x + i), static_cast<double>(y));
+            });
+        }
+        return;
+    }
+    std::fill_n(colors, count, -1);
+    const platform::PixelRect row = platform::PixelRect{x, y, x + count, y + 1}.intersect(
+        platform::PixelRect{0, 0, picture1.innerWidth(), picture1.innerHeight()});
+    if (row.empty()) return;
+    // Held only while it is read: a handle kept past the next write would cost a copy.
+    const platform::PictureHandle image = picture1.Image();
+    for (int64_t px = row.x0; px < row.x1; ++px)
+        colors[px - x] = static_cast<int32_t>(image->at(static_cast<int>(px), static_cast<int>(y)));
 }
 
 void FrmMain::setPictureRow(int64_t x, int64_t y, const int32_t* colors, int64_t count) {

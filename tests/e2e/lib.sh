@@ -32,9 +32,15 @@ start_tavrin() {
 }
 
 # Waits for a window whose title matches exactly and prints its id.
+# A search can end early when a window it looks at goes away meanwhile: it is tried again.
 wait_window() {
-    id=$(timeout 20 xdotool search --sync --onlyvisible --name "^$1\$" 2>/dev/null | tail -1) || true
-    [ -n "$id" ] || fail "no window titled '$1'"
+    deadline=$(($(date +%s) + 20))
+    while :; do
+        id=$(timeout 20 xdotool search --sync --onlyvisible --name "^$1\$" 2>/dev/null | tail -1) || true
+        [ -n "$id" ] && break
+        [ "$(date +%s)" -lt "$deadline" ] || fail "no window titled '$1'"
+        sleep 0.2
+    done
     echo "$id"
 }
 

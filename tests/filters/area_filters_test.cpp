@@ -79,6 +79,8 @@ void referenceFilter(FrmMain& f, filters::Kernel k) {
                         o = std::min(255.0, T(c, y, x) + cur[c]->num() / f.Tint_Value.num());
                     });
                     break;
+                case Kernel::Diffuse: // reads the picture, not the grid: a model of its own
+                    break;
                 }
             }
             const double d = k == Kernel::Blur ? 9 : 1;

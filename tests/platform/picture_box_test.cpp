@@ -140,30 +140,11 @@ TEST(PictureBox, PaintPictureStretchesTheWholeImageOverTheRectangle) {
     EXPECT_THROW(p.PaintPicture(nullptr, 0, 0, 1, 1), vb::Error);
 }
 
-TEST(PictureBox, ImageIsASnapshotAndPictureCopiesItIntoAnotherBox) {
-    Box a(4, 4), c(4, 4);
-    a.box.PSet(1, 1, kRed);
-    platform::PictureHandle snap = a.box.Image();
-    a.box.PSet(2, 2, kGreen); // drawing afterwards leaves the snapshot alone
-    EXPECT_EQ(snap->at(1, 1), static_cast<uint32_t>(kRed));
-    EXPECT_EQ(snap->at(2, 2), static_cast<uint32_t>(kGrey));
-
-    c.box.Picture = snap;
-    EXPECT_EQ(c.box.Point(1, 1), kRed);
-    c.box.PSet(0, 0, kGreen);
-    c.box.Cls(); // clears the drawing, not the stored picture
-    EXPECT_EQ(c.box.Point(0, 0), kGrey);
-    EXPECT_EQ(c.box.Point(1, 1), kRed);
-    c.box.Picture = platform::PictureHandle{};
-    EXPECT_EQ(c.box.Point(1, 1), kGrey);
-
-    c.box.BackColor = kGreen; // a new back colour clears the box to it
-    EXPECT_EQ(c.box.Point(3, 3), kGreen);
-}
-
 // A box that a picture fills shows the picture's own pixels until it is drawn on, and a
 // resize keeps the box's drawing only where there is one: in every order the box shows
 // what a box with pixels of its own would, and the picture it was given never changes.
+// Cls clears the drawing, not the picture; taking the picture away clears the box, and so
+// does a new back colour then.
 TEST(PictureBox, APictureThatFillsTheBoxIsSharedYetNeverDrawnOn) {
     struct Case {
         const char* name;
@@ -206,6 +187,18 @@ TEST(PictureBox, APictureThatFillsTheBoxIsSharedYetNeverDrawnOn) {
              b.Cls();
          },
          {{2, 2, px(2, 2)}}},
+        {"taken away after drawing",
+         [](PictureBox& b) {
+             b.PSet(2, 2, kRed);
+             b.Picture = platform::PictureHandle{};
+         },
+         {{1, 1, kGrey}, {2, 2, kGrey}}},
+        {"taken away, then a new back colour",
+         [](PictureBox& b) {
+             b.Picture = platform::PictureHandle{};
+             b.BackColor = kGreen;
+         },
+         {{3, 2, kGreen}}},
     };
     for (const Case& c : cases) {
         Box b(4, 3);

@@ -2,7 +2,9 @@
 // though a change goes to the widget alone.
 #include "platform/form.h"
 #include "platform/qt/form_window.h"
+#include "platform/qt/text_box_widget.h"
 
+#include <QApplication>
 #include <QFont>
 #include <QLabel>
 #include <QLineEdit>
@@ -46,7 +48,10 @@ TEST(ControlWidgets, EveryPropertyReachesItsWidget) {
              c.text.Text = "517";
              c.text.Refresh();
          },
-         [](QLineEdit& e, QLabel&) { return e.text() == "517" && e.isVisible(); }},
+         [](QLineEdit& e, QLabel&) {
+             return static_cast<platform::qt::TextBoxWidget&>(e).shownText() == "517" &&
+                    e.isVisible();
+         }},
         {"a Refresh after hiding", [](Controls& c) { c.text.Visible = false, c.text.Refresh(); },
          [](QLineEdit& e, QLabel&) { return e.isHidden() && e.pos() == QPoint(10, 20); }},
         {"Caption", [](Controls& c) { c.label.Caption = "Green"; },
@@ -66,6 +71,36 @@ TEST(ControlWidgets, EveryPropertyReachesItsWidget) {
         c.change(controls);
         EXPECT_TRUE(c.shown(*edit, *label)) << c.name;
     }
+}
+
+} // namespace
+
+namespace {
+
+// A text the program sets is painted by the box itself until the user edits it: it must
+// look as the line edit draws it, and the line edit must take it at the focus.
+TEST(ControlWidgets, APaintedTextLooksAsTheLineEditDrawsItAndIsEditedFromThere) {
+    platform::Form form{"frmTest"};
+    platform::TextBox box{&form, "Text1"};
+    QWidget window;
+    window.resize(200, 100);
+    platform::qt::TextBoxWidget painted(box, &window), drawn(box, &window);
+    for (auto* w : {&painted, &drawn})
+        w->setGeometry(10, 10, 50, 21);
+    window.show();
+    for (const char* text : {"517", "0", "1023"}) {
+        painted.showText(text);
+        drawn.setText(text);
+        EXPECT_EQ(painted.grab().toImage(), drawn.grab().toImage()) << text;
+    }
+    painted.showText("42");
+    window.activateWindow();
+    painted.setFocus();
+    QApplication::processEvents();
+    ASSERT_TRUE(painted.hasFocus());
+    EXPECT_EQ(painted.text(), "42");
+    painted.showText("43");
+    EXPECT_EQ(painted.text(), "43");
 }
 
 } // namespace

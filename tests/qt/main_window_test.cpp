@@ -3,6 +3,7 @@
 #include "editor/frm_main.h"
 #include "platform/qt/form_window.h"
 #include "platform/qt/qt_host.h"
+#include "platform/qt/text_box_widget.h"
 #include "platform/scripted_host.h"
 #include "shell/frm_splash.h"
 
@@ -87,7 +88,7 @@ TEST_F(MainWindow, StatusColourBoxesAndPaletteFollowTheState) {
     QColor c = shown.pixelColor(2 + r.Cell_X + 5, 2 + r.Cell_Y + 5);
     EXPECT_EQ(c, QColor(r.Red, r.Green, r.Blue));
     frm.Text1.Text = "17";
-    EXPECT_EQ(window->findChild<QWidget*>("Text1")->property("text").toString(), "17");
+    EXPECT_EQ(window->findChild<platform::qt::TextBoxWidget*>("Text1")->shownText(), "17");
 }
 
 // A real right press on the canvas reaches the editor's handler, which opens Pop.

@@ -168,8 +168,7 @@ const Row kOtherRows[] = {
     {"tbToolBar.Font", nullptr, nullptr, nullptr, Kinds::Leaves, "font: "},
 };
 
-// The soft brushes, the mask and fill, Diffuse and Lighten Image: their rows stand ready
-// for when those tools are wired.
+// The soft brushes, the mask and fill, Diffuse and Lighten Image.
 const Row kSoftRows[] = {
     {"SSCommand13", "Air", nullptr, "Airbrush Tool", Kinds::Hides, ""},
     {"SSCommand16", "Blur", nullptr, "Blurring Brush Tool", Kinds::Hides, ""},
@@ -273,6 +272,12 @@ TEST_F(CommandRows, EachToolCommandSetsItsWordsStatusAndBrushKinds) {
 TEST_F(CommandRows, EachOtherCommandDoesItsOwnThingAndLeavesTheTool) {
     installGamePalette();
     for (const Row& row : kOtherRows)
+        check(row);
+}
+
+TEST_F(CommandRows, EachSoftToolCommandSetsItsWordsStatusAndBrushKinds) {
+    installGamePalette();
+    for (const Row& row : kSoftRows)
         check(row);
 }
 

@@ -4,44 +4,45 @@
 
 #include <gtest/gtest.h>
 
+#include <algorithm>
+
 namespace tavrin {
 namespace {
 
 using Bytes = std::vector<uint8_t>;
 
-TEST(PcxLayout, SizeFieldsAndWhereTheDataLies) {
-    Bytes file(2000, 7);
-    file[8] = 0x2B; // Xmax 0x012B
-    file[9] = 0x01;
-    file[10] = 0xFE; // Ymax 0xFFFE, unsigned
-    file[11] = 0xFF;
-    const PcxLayout l = parsePcx(file);
-    EXPECT_EQ(l.width, 0x012B + 1);
-    EXPECT_EQ(l.ymax, 0xFFFE);
-    EXPECT_EQ(l.cells.data, file.data() + 128);
-    EXPECT_EQ(l.cells.count, 2000 - 128 - 769); // the palette and the byte before it aren't data
-    EXPECT_EQ(l.cells.lastCell, 3000);
-    EXPECT_EQ(l.header.data(), file.data());
-    EXPECT_EQ(l.header.size(), 128u);
-}
-
-TEST(PcxLayout, ShortFilesGiveZeroWhereTheirBytesEnd) {
-    // Ymax takes two bytes: a file of 11 bytes has none; 10 bytes still give Xmax whole.
-    Bytes eleven(11, 0);
-    eleven[8] = 5;
-    eleven[9] = 1;
-    eleven[10] = 9;
-    PcxLayout l = parsePcx(eleven);
-    EXPECT_EQ(l.width, 256 + 5 + 1);
-    EXPECT_EQ(l.ymax, 0);
-    EXPECT_EQ(l.cells.count, 0);
-    EXPECT_EQ(l.cells.lastCell, 1011);
-    EXPECT_EQ(l.header.size(), 11u);
-    l = parsePcx(Bytes(9, 3)); // only the low byte of Xmax
-    EXPECT_EQ(l.width, 4);
-    EXPECT_EQ(parsePcx(Bytes{}).width, 1);
-    EXPECT_EQ(parsePcx(Bytes(897, 0)).cells.count, 0);
-    EXPECT_EQ(parsePcx(Bytes(898, 0)).cells.count, 1);
+// Files of any length: a field cut short counts as zero where its bytes end, the palette
+// and the byte before it are never data, and the last cell lies 1000 past the file.
+TEST(PcxLayout, SizeFieldsAndWhereTheDataLiesEvenInShortFiles) {
+    Bytes full(2000, 7);
+    full[8] = 0x2B, full[9] = 0x01;   // Xmax 0x012B
+    full[10] = 0xFE, full[11] = 0xFF; // Ymax 0xFFFE, unsigned
+    const struct {
+        Bytes file;
+        int64_t width, ymax, count;
+    } cases[] = {
+        {full, 0x012B + 1, 0xFFFE, 2000 - 128 - 769},
+        {{0, 0, 0, 0, 0, 0, 0, 0, 5, 1, 9}, 256 + 5 + 1, 0, 0}, // no whole Ymax
+        {Bytes(9, 3), 4, 0, 0},                                 // only Xmax's low byte
+        {{}, 1, 0, 0},
+        {Bytes(897, 0), 1, 0, 0},
+        {Bytes(898, 0), 1, 0, 1},
+    };
+    for (const auto& c : cases) {
+        const PcxLayout l = parsePcx(c.file);
+        const int64_t size = std::ssize(c.file);
+        EXPECT_EQ(l.width, c.width) << size;
+        EXPECT_EQ(l.ymax, c.ymax) << size;
+        EXPECT_EQ(l.cells.count, c.count) << size;
+        EXPECT_EQ(l.cells.lastCell, size + 1000) << size;
+        EXPECT_EQ(l.header.size(), static_cast<std::size_t>(std::min<int64_t>(size, 128)));
+        if (l.cells.count > 0) {
+            EXPECT_EQ(l.cells.data, c.file.data() + 128);
+        }
+        if (size > 0) {
+            EXPECT_EQ(l.header.data(), c.file.data());
+        }
+    }
 }
 
 } // namespace

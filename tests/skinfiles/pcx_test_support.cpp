@@ -5,14 +5,14 @@
 
 namespace tavrin::test {
 
-Bytes pcxHeader(int width, int height, int bytesPerLine, int xmin, int ymin) {
+Bytes pcxHeader(int width, int height, int bytesPerLine) {
     Bytes h(128, 0);
     auto put16 = [&](int at, int v) {
         h[static_cast<std::size_t>(at)] = static_cast<uint8_t>(v & 0xFF);
         h[static_cast<std::size_t>(at + 1)] = static_cast<uint8_t>((v >> 8) & 0xFF);
     };
     h[0] = 10, h[1] = 5, h[2] = 1, h[3] = 8;
-    put16(4, xmin), put16(6, ymin), put16(8, xmin + width - 1), put16(10, ymin + height - 1);
+    put16(8, width - 1), put16(10, height - 1);
     put16(12, 72), put16(14, 72);
     h[65] = 1;
     put16(66, bytesPerLine);
@@ -20,24 +20,20 @@ Bytes pcxHeader(int width, int height, int bytesPerLine, int xmin, int ymin) {
     return h;
 }
 
-Bytes encodePcx(int width, int height, const std::vector<uint8_t>& indices, const Bytes& palette,
-                int bytesPerLine, bool marker, uint8_t padByte) {
-    if (bytesPerLine == 0) bytesPerLine = width;
-    Bytes out = pcxHeader(width, height, bytesPerLine);
+Bytes encodePcx(int width, int height, const std::vector<uint8_t>& indices, const Bytes& palette) {
+    Bytes out = pcxHeader(width, height, width);
     for (int y = 0; y < height; ++y) {
-        std::vector<uint8_t> row(static_cast<std::size_t>(bytesPerLine), padByte);
-        for (int x = 0; x < width; ++x)
-            row[static_cast<std::size_t>(x)] = indices[static_cast<std::size_t>(y * width + x)];
-        for (std::size_t i = 0; i < row.size();) {
-            std::size_t n = 1;
-            while (i + n < row.size() && row[i + n] == row[i] && n < 63)
+        const auto row = indices.begin() + y * width;
+        for (int i = 0; i < width;) {
+            int n = 1;
+            while (i + n < width && row[i + n] == row[i] && n < 63)
                 ++n;
             if (n > 1 || row[i] >= 192) out.push_back(static_cast<uint8_t>(192 + n));
             out.push_back(row[i]);
             i += n;
         }
     }
-    if (marker) out.push_back(0x0C);
+    out.push_back(0x0C);
     out.insert(out.end(), palette.begin(), palette.end());
     return out;
 }

@@ -8,12 +8,10 @@
 namespace tavrin::test {
 
 // A version 5, 8-bit header for a width x height picture, bytesPerLine per row.
-Bytes pcxHeader(int width, int height, int bytesPerLine, int xmin = 0, int ymin = 0);
+Bytes pcxHeader(int width, int height, int bytesPerLine);
 
-// Header, rows of `indices` (bytesPerLine each, padding filled with padByte) in the
-// usual runs, the 0x0C marker unless left out, and the palette.
-Bytes encodePcx(int width, int height, const std::vector<uint8_t>& indices, const Bytes& palette,
-                int bytesPerLine = 0, bool marker = true, uint8_t padByte = 0);
+// Header, rows of `indices` in the usual runs, the 0x0C marker and the palette.
+Bytes encodePcx(int width, int height, const std::vector<uint8_t>& indices, const Bytes& palette);
 
 // What the reader makes of a file, worked out one byte at a time from its rules. A value
 // in `unrecorded` has no record of its own in the palette table.

@@ -2,7 +2,10 @@
 // above, the current palette, no marker; the target's name and the silent failures.
 #include "skinfiles/pcx_test_support.h"
 
+#include <fstream>
 #include <random>
+#include <sys/resource.h>
+#include <sys/stat.h>
 
 namespace tavrin::test {
 namespace {
@@ -11,6 +14,9 @@ struct PcxWriter : EditorTest {
     void SetUp() override {
         installGamePalette();
         frm.Form_Load();
+    }
+    void openSmallSkin() {
+        openSkin(host, frm, dir.write("in.pcx", encodePcx(2, 1, {5, 6}, gamePalette())));
     }
     // What a save must write for the editor as it stands.
     Bytes expectedFile() {
@@ -52,7 +58,7 @@ TEST_F(PcxWriter, LoadThenSaveWritesHeaderGridWithEscapesAndPalette) {
 }
 
 TEST_F(PcxWriter, TargetNameAndWhatStandsThereBefore) {
-    openSkin(host, frm, dir.write("in.pcx", encodePcx(2, 1, {5, 6}, gamePalette())));
+    openSmallSkin();
     // An older, longer file of the same name leaves nothing behind.
     dir.write("skin.PCX", Bytes(5000, 0xAA));
     host.answerSave(dir.file("skin.pcx"));
@@ -76,28 +82,42 @@ TEST_F(PcxWriter, TargetNameAndWhatStandsThereBefore) {
 }
 
 // A save that fails keeps the file that stood there and says why on the status line,
-// with no message box: the rest of the command runs as always.
+// with no message box: the rest of the command runs as always. A pipe must not even be
+// opened (it would block), and a huge old file is replaced without being read. Every reason
+// a target is refused is checked on replaceFile itself.
 TEST_F(PcxWriter, AFailedSaveKeepsTheOldFileAndSaysWhy) {
-    openSkin(host, frm, dir.write("in.pcx", encodePcx(2, 1, {5, 6}, gamePalette())));
+    namespace fs = std::filesystem;
+    openSmallSkin();
     const std::string kept = dir.write("kept.PCX", Bytes{1, 2, 3});
-    std::filesystem::permissions(kept, std::filesystem::perms::owner_read |
-                                           std::filesystem::perms::group_read |
-                                           std::filesystem::perms::others_read);
+    fs::permissions(kept, fs::perms::owner_read | fs::perms::group_read | fs::perms::others_read);
+    ASSERT_EQ(::mkfifo(dir.file("pipe.PCX").c_str(), 0644), 0);
+    { std::ofstream(dir.file("big.PCX"), std::ios::binary); }
+    fs::resize_file(dir.file("big.PCX"), std::uintmax_t{1} << 30); // sparse: costs no disk
+    const struct {
+        const char* name;
+        const char* status;
+    } cases[] = {
+        {"kept.pcx", "Save failed: Permission denied"},
+        {"pipe.pcx", "Save failed: Not a regular file"},
+        {"big.pcx", "Ready..."}, // the next save that can write says so as always
+    };
     const std::size_t shown = host.messages().size();
-    host.answerSave(kept);
-    frm.ex_Click();
-    EXPECT_EQ(readFile(kept), (Bytes{1, 2, 3}));
-    EXPECT_EQ(frm.StatusBar1.Panels(1).Text.get(), "Save failed: Permission denied");
-    host.answerSave(dir.file("no/such/place.pcx"));
-    frm.ex_Click();
-    EXPECT_EQ(frm.StatusBar1.Panels(1).Text.get(), "Save failed: No such file or directory");
+    rusage before{}, after{};
+    ::getrusage(RUSAGE_SELF, &before);
+    for (const auto& c : cases) {
+        SCOPED_TRACE(c.name);
+        host.answerSave(dir.file(c.name));
+        frm.ex_Click();
+        EXPECT_EQ(frm.StatusBar1.Panels(1).Text.get(), c.status);
+        EXPECT_TRUE(frm.Picture7.Visible);
+        EXPECT_EQ(frm.MousePointer, 0);
+    }
+    ::getrusage(RUSAGE_SELF, &after);
+    EXPECT_LT(after.ru_maxrss - before.ru_maxrss, 64 * 1024); // kilobytes
     EXPECT_EQ(host.messages().size(), shown);
-    EXPECT_TRUE(frm.Picture7.Visible);
-    EXPECT_EQ(frm.MousePointer, 0);
-    // The next save that can write says so as always.
-    host.answerSave(dir.file("fine.pcx"));
-    frm.ex_Click();
-    EXPECT_EQ(frm.StatusBar1.Panels(1).Text.get(), "Ready...");
+    EXPECT_EQ(readFile(kept), (Bytes{1, 2, 3}));
+    EXPECT_TRUE(fs::is_fifo(dir.file("pipe.PCX")));
+    EXPECT_EQ(readFile(dir.file("big.PCX")), expectedFile());
 }
 
 TEST_F(PcxWriter, NoSkinGivesHeaderAndPaletteOnly) {
@@ -109,7 +129,7 @@ TEST_F(PcxWriter, NoSkinGivesHeaderAndPaletteOnly) {
 }
 
 TEST_F(PcxWriter, IndicesThatAreNoByteLeaveAHole) {
-    openSkin(host, frm, dir.write("in.pcx", encodePcx(2, 1, {5, 6}, gamePalette())));
+    openSmallSkin();
     // Any mix of bytes, escapes and holes (256 from a palette longer than 256 colours,
     // negative values from nowhere), in blocks and alone.
     std::mt19937 rng(5);

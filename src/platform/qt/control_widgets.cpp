@@ -5,14 +5,12 @@
 #include "platform/qt/dispatch.h"
 #include "platform/qt/mouse_state.h"
 #include "platform/qt/picture_widget.h"
+#include "platform/qt/text_box_widget.h"
 
 #include <QFrame>
-#include <QKeyEvent>
 #include <QLabel>
-#include <QLineEdit>
 #include <QListWidget>
 #include <QMouseEvent>
-#include <QPainter>
 #include <QProgressBar>
 #include <QSlider>
 #include <QVBoxLayout>
@@ -97,49 +95,6 @@ private:
 // setting the code to 0. The style's own frame, rounded and shaded, costs as much to
 // paint again as the text does, and the X and Y boxes get a new text at nearly every
 // move of the mouse.
-class TextBoxWidget : public QLineEdit {
-public:
-    TextBoxWidget(TextBox& box, QWidget* parent) : QLineEdit(parent), box_(box) {
-        setFrame(false);
-        setTextMargins(2, 2, 2, 2);
-        // Opaque: a new text repaints the box alone, not the panel under it too.
-        setAutoFillBackground(true);
-        QObject::connect(this, &QLineEdit::textEdited, this,
-                         [this](const QString& text) { box_.Text = text.toStdString(); });
-    }
-
-protected:
-    void keyPressEvent(QKeyEvent* event) override {
-        const bool enter = event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter;
-        const QString typed = event->text();
-        if (box_.KeyPress && (enter || (typed.size() == 1 && typed[0].unicode() < 256))) {
-            auto code = static_cast<int16_t>(enter ? 13 : typed[0].unicode());
-            runEvent([&] { box_.KeyPress(code); });
-            if (code == 0) return;
-        }
-        QLineEdit::keyPressEvent(event);
-    }
-
-    void paintEvent(QPaintEvent* event) override {
-        QLineEdit::paintEvent(event);
-        // Plain fills: drawn as lines, the border would cost as much as the text.
-        QPainter p(this);
-        const QPalette& c = palette();
-        const int w = width(), h = height();
-        p.fillRect(0, 0, w, 1, c.dark()); // outer edge: shadow above and left, light below
-        p.fillRect(0, 0, 1, h, c.dark());
-        p.fillRect(0, h - 1, w, 1, c.light());
-        p.fillRect(w - 1, 0, 1, h, c.light());
-        p.fillRect(1, 1, w - 2, 1, c.shadow()); // inner edge
-        p.fillRect(1, 1, 1, h - 2, c.shadow());
-        p.fillRect(1, h - 2, w - 2, 1, c.midlight());
-        p.fillRect(w - 2, 1, 1, h - 2, c.midlight());
-    }
-
-private:
-    TextBox& box_;
-};
-
 } // namespace
 
 QWidget* makeControlWidget(Control& control, QWidget* parent) {
@@ -208,10 +163,7 @@ void updateControlWidget(Control& control, QWidget* widget, const PropBase* chan
     }
     case ControlKind::TextBox: {
         auto& c = static_cast<TextBox&>(control);
-        auto* e = static_cast<QLineEdit*>(widget);
-        if (!is(c.Text)) break;
-        QString text = qs(c.Text);
-        if (e->text() != text) e->setText(text);
+        if (is(c.Text)) static_cast<TextBoxWidget*>(widget)->showText(qs(c.Text));
         break;
     }
     case ControlKind::ListBox: {

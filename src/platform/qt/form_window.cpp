@@ -13,6 +13,7 @@
 #include <QMenu>
 #include <QMenuBar>
 #include <QMouseEvent>
+#include <QPointer>
 #include <QScreen>
 #include <QStatusBar>
 #include <QToolBar>
@@ -44,7 +45,7 @@ void FormWindow::followForm() {
     };
     showBackColor();
     surface_->installEventFilter(this);
-    observers_.emplace_back(&form_, form_.observe([this, showBackColor](const PropBase* p) {
+    observers_.add(form_, form_.observe([this, showBackColor](const PropBase* p) {
         if (p == &form_.BackColor) showBackColor();
         if (p != &form_.WindowState || !isVisible()) return;
         applyWindowState();
@@ -62,16 +63,21 @@ bool FormWindow::eventFilter(QObject* watched, QEvent* event) {
     return QMainWindow::eventFilter(watched, event);
 }
 
-FormWindow::~FormWindow() {
-    unregisterWindow(this);
-    for (auto& [control, id] : observers_)
+Watchers::~Watchers() {
+    for (auto& [control, id] : ids_)
         control->unobserve(id);
 }
 
-void FormWindow::watch(Control& control, std::function<void()> update) {
+FormWindow::~FormWindow() { unregisterWindow(this); }
+
+void FormWindow::watch(Watchers& watchers, Control& control, std::function<void()> update) {
     update();
-    observers_.emplace_back(
-        &control, control.observe([update = std::move(update)](const PropBase*) { update(); }));
+    watchers.add(control,
+                 control.observe([update = std::move(update)](const PropBase*) { update(); }));
+}
+
+void FormWindow::watch(Control& control, std::function<void()> update) {
+    watch(observers_, control, std::move(update));
 }
 
 QWidget* FormWindow::widgetFor(const Control* control) const {
@@ -120,12 +126,15 @@ void FormWindow::buildControls() {
         // Only what changed goes to the widget: the X and Y boxes change at every move of
         // the mouse, their place and visibility never. A Refresh (nullptr) asks for the
         // content only; the widget shows the rest as it stands.
-        observers_.emplace_back(c, c->observe([c, widget, place](const PropBase* p) {
+        observers_.add(*c, c->observe([c, widget, place](const PropBase* p) {
             if (p == &c->Left || p == &c->Top || p == &c->Width || p == &c->Height)
                 place();
-            else if (p == &c->Visible)
+            else if (p == &c->Visible) {
                 widget->setVisible(c->Visible);
-            else if (p == &c->Enabled)
+                // A bar shown while the program runs comes up over those beside it: the
+                // brush kinds open over the tool bar.
+                if (c->Visible) widget->raise();
+            } else if (p == &c->Enabled)
                 widget->setEnabled(c->Enabled);
             else
                 updateControlWidget(*c, widget, p);
@@ -133,14 +142,14 @@ void FormWindow::buildControls() {
     }
 }
 
-void FormWindow::fillMenu(QMenu* menu, MenuItem* parent) {
+void FormWindow::fillMenu(QMenu* menu, MenuItem* parent, Watchers& watchers) {
     for (Control* c : form_.controls()) {
         if (c->kind() != ControlKind::MenuItem) continue;
         auto* item = static_cast<MenuItem*>(c);
         if (item->Parent != parent) continue;
         if (item->isSeparator()) {
             QAction* sep = menu->addSeparator();
-            watch(*item, [item, sep] { sep->setVisible(item->Visible); });
+            watch(watchers, *item, [item, sep] { sep->setVisible(item->Visible); });
             continue;
         }
         bool hasChildren = false;
@@ -150,20 +159,23 @@ void FormWindow::fillMenu(QMenu* menu, MenuItem* parent) {
         QAction* action = nullptr;
         if (hasChildren) {
             QMenu* sub = menu->addMenu(QString::fromStdString(item->Caption.get()));
-            fillMenu(sub, item);
+            fillMenu(sub, item, watchers);
             action = sub->menuAction();
         } else {
             action = menu->addAction(QString::fromStdString(item->Caption.get()));
             if (!item->Shortcut.empty())
                 action->setShortcut(QKeySequence(QString::fromStdString(item->Shortcut)));
             QObject::connect(action, &QAction::triggered, this, [item, action] {
+                // A popup's item may go with its menu while the handler waits in a dialog.
+                const QPointer<QAction> still(action);
                 runEvent(item->Click);
+                if (!still) return;
                 // The handler owns the check mark; undo any toggle Qt made on its own.
                 action->setCheckable(item->Checked);
                 action->setChecked(item->Checked);
             });
         }
-        watch(*item, [item, action] {
+        watch(watchers, *item, [item, action] {
             action->setText(QString::fromStdString(item->Caption.get()));
             action->setVisible(item->Visible);
             action->setEnabled(item->Enabled);
@@ -173,10 +185,20 @@ void FormWindow::fillMenu(QMenu* menu, MenuItem* parent) {
     }
 }
 
+namespace {
+
+// Made anew for each showing: its check marks stop following the items when it goes.
+class PopupMenu : public QMenu {
+public:
+    using QMenu::QMenu;
+    Watchers watchers;
+};
+
+} // namespace
+
 QMenu* FormWindow::menuFor(MenuItem& item) {
-    auto* menu = new QMenu(this);
-    menu->setAttribute(Qt::WA_DeleteOnClose);
-    fillMenu(menu, &item);
+    auto* menu = new PopupMenu(this);
+    fillMenu(menu, &item, menu->watchers);
     return menu;
 }
 
@@ -187,7 +209,7 @@ void FormWindow::buildMenus() {
         auto* item = static_cast<MenuItem*>(c);
         if (item->Parent != nullptr || !item->Visible) continue; // the popup stays off the bar
         QMenu* menu = menuBar()->addMenu(QString::fromStdString(item->Caption.get()));
-        fillMenu(menu, item);
+        fillMenu(menu, item, observers_);
         any = true;
     }
     menuBar()->setVisible(any);

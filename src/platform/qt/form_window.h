@@ -20,6 +20,20 @@ namespace platform::qt {
 
 class PictureWidget;
 
+// Observers of controls that end with their holder: a menu's or a window's, held as a
+// member so that the observers go before the widgets they update.
+class Watchers {
+public:
+    Watchers() = default;
+    Watchers(const Watchers&) = delete;
+    Watchers& operator=(const Watchers&) = delete;
+    ~Watchers();
+    void add(Control& control, int id) { ids_.emplace_back(&control, id); }
+
+private:
+    std::vector<std::pair<Control*, int>> ids_;
+};
+
 class FormWindow : public QMainWindow {
     Q_OBJECT
 public:
@@ -30,7 +44,8 @@ public:
     void syncPictures();
     // The widget made for a control, or nullptr.
     QWidget* widgetFor(const Control* control) const;
-    // A menu made from the items under one item (for the popup menu).
+    // A menu made from the items under one item (for the popup menu), the caller's to
+    // delete.
     QMenu* menuFor(MenuItem& item);
     // Takes the window state of the form (2: maximised).
     void applyWindowState();
@@ -48,16 +63,17 @@ private:
     void buildControls();
     void followForm();
     void buildMenus();
-    void fillMenu(QMenu* menu, MenuItem* parent);
+    void fillMenu(QMenu* menu, MenuItem* parent, Watchers& watchers);
     void buildToolbar(class Toolbar& bar);
     void buildStatusBar(class StatusBar& bar);
     void watch(Control& control, std::function<void()> update);
+    static void watch(Watchers& watchers, Control& control, std::function<void()> update);
 
     Form& form_;
     QWidget* surface_;
     std::map<const Control*, QWidget*> widgets_;
     std::vector<PictureWidget*> pictures_;
-    std::vector<std::pair<Control*, int>> observers_;
+    Watchers observers_;
 };
 
 } // namespace platform::qt

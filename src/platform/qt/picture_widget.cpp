@@ -44,6 +44,7 @@ void PictureWidget::mouseReleaseEvent(QMouseEvent* event) {
 }
 
 void PictureWidget::sync() {
+    if (!box_.damaged()) return;
     const PixelRegion damage = box_.takeDamage();
     if (damage.empty()) return;
     const int inset = box_.borderPixels() / 2;

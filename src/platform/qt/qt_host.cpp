@@ -17,6 +17,7 @@
 #include <QImageReader>
 #include <QMenu>
 #include <QMessageBox>
+#include <QPointer>
 #include <QPrintDialog>
 #include <QPrinter>
 #include <QPushButton>
@@ -148,9 +149,13 @@ void QtHost::DoEvents() {
 void QtHost::PopupMenu(MenuItem& item) {
     for (auto& [form, window] : windows_) {
         if (form != item.form()) continue;
-        QMenu* menu = window->menuFor(item);
+        QPointer<QMenu> menu = window->menuFor(item);
         syncViews();
         menu->exec(QCursor::pos());
+        // Only now: the item chosen runs its handler inside exec, and a handler that
+        // serves the event queue would let a menu deleted on closing go while its own
+        // code still runs. (A window unloaded meanwhile took its menu with it.)
+        delete menu;
         return;
     }
 }
