@@ -47,16 +47,24 @@ void resizeMain(Session& s, double width, double height) {
     fire(frm.Resize);
 }
 
-void gripBar(Session&, const std::string&, double, double) {
-    // To be: the grip's MouseDown (button 1, no shift, x, y), which keeps the offset and
-    // begins the drag of its bar; then s.grip = the bar, for dropBar.
-    notYet("grip", "drag handlers for the bars");
+// A press of the left button on the grip, as a user starts a drag; a control that is no
+// grip has no handler for it, and nothing happens.
+void gripBar(Session& s, const std::string& grip, double x, double y) {
+    platform::Control* c = s.mainForm().find(grip);
+    const platform::MouseHandler* down = nullptr;
+    if (auto* panel = dynamic_cast<platform::Panel*>(c)) down = &panel->MouseDown;
+    if (auto* box = dynamic_cast<platform::PictureBox*>(c)) down = &box->MouseDown;
+    if (!down) return;
+    int16_t button = 1, shift = 0;
+    auto fx = static_cast<float>(x), fy = static_cast<float>(y);
+    fire(*down, button, shift, fx, fy);
 }
 
-void dropBar(Session&, const std::string&, double, double) {
-    // To be: a ScriptError without s.grip; else Form_DragDrop or Picture7_DragDrop
-    // (source: the bar in s.grip, x, y), then s.grip.reset().
-    notYet("drop", "drop handlers for the bars");
+// The release over the target: the bar being dragged, if any, is dropped there.
+void dropBar(Session& s, const std::string& target, double x, double y) {
+    FrmMain& frm = s.mainForm();
+    platform::Control& on = target == "form" ? static_cast<platform::Control&>(frm) : frm.Picture7;
+    frm.dropOn(on, static_cast<float>(x), static_cast<float>(y));
 }
 
 } // namespace tavrin::cli

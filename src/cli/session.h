@@ -6,7 +6,6 @@
 #include "shell/frm_splash.h"
 
 #include <memory>
-#include <optional>
 #include <ostream>
 #include <string>
 
@@ -26,9 +25,6 @@ public:
     std::ostream& out() { return out_; }
     FrmMain& mainForm();
     FrmSplash& splash();
-
-    // The bar a `grip` has picked up, waiting for its `drop`.
-    std::optional<std::string> grip;
 
 private:
     void showMain();

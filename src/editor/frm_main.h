@@ -58,6 +58,9 @@ public:
     void tbToolBar_ButtonClick(const std::string& Key);
     // tools/text_tool.cpp
     void Text7_KeyPress(int16_t& KeyAscii);
+    // shell/bar_drag.cpp
+    void Form_DragDrop(platform::Control& Source, float X, float Y);
+    void Picture7_DragDrop(platform::Control& Source, float X, float Y);
 
     static int32_t Pal_Relative(int32_t color) { return color | 0x2000000; }
 
@@ -80,6 +83,10 @@ private:
     // The tables applied to the controls and every event connected to its handler: the
     // one place where the window is wired.
     void buildCommandSurface();
+
+    // ---------------- shell/bar_drag.cpp ----------------
+    // The grips of the floating bars and the two places a bar can be dropped.
+    void wireBarDrag();
 
     // ---------------- shell/printing.cpp ----------------
     // The skin, its path with the date, and its size on frmPrint.

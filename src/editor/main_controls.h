@@ -17,10 +17,11 @@ public:
 #define TAVRIN_PICTURE(name, scale, border, autoRedraw, back) \
     platform::PictureBox name{this, #name, {platform::ScaleUnit::scale, border, autoRedraw, back}}
     // clang-format on
-    // Picture surfaces: scale, border pixels, AutoRedraw, back colour.
+    // Picture surfaces: scale, border pixels, AutoRedraw, back colour. Within a panel the
+    // controls made later stand on top of those made before.
     TAVRIN_PICTURE(picture1, Pixels, 0, true, 0x000000);
+    TAVRIN_PICTURE(Picture3, Pixels, 4, true, 0x000000); // made first: behind the palette
     TAVRIN_PICTURE(Picture2, Pixels, 4, true, 0xC0C0C0);
-    TAVRIN_PICTURE(Picture3, Pixels, 4, true, 0x000000);
     TAVRIN_PICTURE(Picture4, Pixels, 2, true, 0x000000);
     TAVRIN_PICTURE(Picture5, Pixels, 4, true, 0xC0C0C0);
     TAVRIN_PICTURE(Picture6, Twips, 2, true, 0x000000);

@@ -7,6 +7,7 @@
 
 #include <algorithm>
 #include <cmath>
+#include <utility>
 
 namespace platform {
 
@@ -47,6 +48,10 @@ void Control::Move(double left, double top, double width, double height) {
     Top = top;
     Width = width;
     Height = height;
+}
+
+void Control::Drag(int action) {
+    if (form_) form_->drag(*this, action);
 }
 
 int Control::observe(Observer fn) {
@@ -112,6 +117,22 @@ Control* Form::find(const std::string& name) const {
     for (Control* c : controls_)
         if (c->name() == name) return c;
     return nullptr;
+}
+
+// One drag at a time: a new one replaces the one in progress, and a control can end or
+// cancel only its own.
+void Form::drag(Control& control, int action) {
+    if (action == 1)
+        dragSource_ = &control;
+    else if (dragSource_ != &control)
+        return;
+    if (DragShown) DragShown(control, action);
+    if (action != 1) dragSource_ = nullptr;
+}
+
+void Form::dropOn(Control& target, float X, float Y) {
+    Control* source = std::exchange(dragSource_, nullptr);
+    if (source && target.DragDrop) target.DragDrop(*source, X, Y);
 }
 
 } // namespace platform

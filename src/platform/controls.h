@@ -14,6 +14,11 @@ namespace platform {
 
 class Form;
 
+// The mouse on a control, as the form's events give it: Button 1 left, 2 right, 4 middle
+// (in a move, the buttons held, summed); Shift 1 Shift, 2 Ctrl, 4 Alt, summed; X and Y in
+// the control's own units. Set by the editor; the view calls them.
+using MouseHandler = std::function<void(int16_t Button, int16_t Shift, float X, float Y)>;
+
 enum class ControlKind {
     Form,
     PictureBox,
@@ -60,6 +65,12 @@ public:
 
     // What a click on it runs; set by the shell's tables.
     std::function<void()> Click;
+    // DragDrop(Source, X, Y): a dragged control was let go over this one, X and Y in this
+    // one's units. Set by the editor; a control without it ignores drops.
+    std::function<void(Control& Source, float X, float Y)> DragDrop;
+    // The platform's drag of this control: 1 begins it (a view moves an outline of it with
+    // the pointer), 2 ends it with a drop where the pointer is, 0 cancels it.
+    void Drag(int action);
 
     void Move(double left, double top, double width, double height);
     void Refresh() { notify(nullptr); }
@@ -89,6 +100,8 @@ class Panel : public Control { // a three-dimensional panel with a caption
 public:
     Panel(Form* form, std::string name) : Control(form, std::move(name), ControlKind::Panel) {}
     Prop<std::string> Caption{this, "Caption"};
+    // X and Y in twips from the panel's top left corner.
+    MouseHandler MouseDown, MouseUp;
 };
 
 class CommandButton : public Control { // a three-dimensional button with caption, icon, tool tip
@@ -97,6 +110,7 @@ public:
         : Control(form, std::move(name), ControlKind::Button) {}
     Prop<std::string> Caption{this, "Caption"};
     Prop<std::string> ToolTipText{this, "ToolTipText"};
+    Prop<std::string> Picture{this, "Picture"}; // the name of its image, or empty
 };
 
 class Label : public Control {
@@ -175,7 +189,8 @@ public:
     struct Button {
         std::string Key; // empty for a separator
         std::string ToolTipText;
-        int Value = 0; // 1 pressed
+        int Value = 0;     // 1 pressed
+        std::string Image; // the name of its image in the window's image list
     };
     std::vector<Button> Buttons;
     Button* find(const std::string& key);

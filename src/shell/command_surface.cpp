@@ -6,6 +6,8 @@
 
 #include "platform/vb_error.h"
 
+#include <stdexcept>
+#include <string>
 #include <vector>
 
 namespace tavrin {
@@ -21,6 +23,22 @@ void setCaption(platform::Control& c, const std::string& caption) {
         label->Caption = caption;
     else if (auto* box = dynamic_cast<platform::TextBox*>(&c))
         box->Text = caption;
+}
+
+void applyPictures(FrmMain& frm) {
+    const std::string toolbar = frm.tbToolBar.name() + ".";
+    for (const shell::PictureRow& p : shell::pictureTable()) {
+        const std::string name = p.control;
+        platform::Toolbar::Button* key =
+            name.rfind(toolbar, 0) == 0 ? frm.tbToolBar.find(name.substr(toolbar.size())) : nullptr;
+        auto* button = dynamic_cast<platform::CommandButton*>(frm.find(name));
+        if (key)
+            key->Image = p.picture;
+        else if (button)
+            button->Picture = p.picture;
+        else
+            throw std::logic_error("no button named " + name);
+    }
 }
 
 } // namespace
@@ -59,8 +77,9 @@ void FrmMain::buildCommandSurface() {
     }
 
     for (const shell::ToolbarRow& b : shell::toolbarTable())
-        tbToolBar.Buttons.push_back({b.key, b.toolTip, 0});
+        tbToolBar.Buttons.push_back({b.key, b.toolTip, 0, ""});
     tbToolBar.ButtonClick = [this](const std::string& key) { tbToolBar_ButtonClick(key); };
+    applyPictures(*this);
 
     // The events that carry arguments, which the tables (clicks only) can't hold.
     Resize = [this] { Form_Resize(); };
@@ -82,6 +101,7 @@ void FrmMain::buildCommandSurface() {
     };
     Slider1.Change = [this] { Slider1_Change(); };
     Text7.KeyPress = [this](int16_t& key) { Text7_KeyPress(key); };
+    wireBarDrag();
 }
 
 } // namespace tavrin

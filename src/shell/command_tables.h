@@ -45,4 +45,12 @@ struct ToolbarRow {
 // tbToolBar's buttons, positions 1 to 15.
 const std::vector<ToolbarRow>& toolbarTable();
 
+struct PictureRow {
+    const char* control; // a button, or a key of the tool bar as "tbToolBar.Key"
+    const char* picture; // the name of its image
+};
+
+// The pictures on the buttons that show one: the tool bar, the filter bar, tbToolBar.
+const std::vector<PictureRow>& pictureTable();
+
 } // namespace tavrin::shell

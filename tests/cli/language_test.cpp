@@ -98,13 +98,5 @@ TEST(ScriptLanguage, BadLinesAndUnknownNamesStopWithStatus2AndTheirLineNumber) {
     }
 }
 
-TEST(ScriptLanguage, BarDraggingIsParsedThenRefusedAsNotSupportedYet) {
-    for (const char* line : {"grip SSPanel8 5 5", "drop form 100 100", "drop Picture7 1.5 -2"}) {
-        DriverRun r = runDriver(std::string(line) + "\n");
-        EXPECT_EQ(r.status, 2) << line;
-        EXPECT_NE(r.err.find("not supported yet"), std::string::npos) << r.err;
-    }
-}
-
 } // namespace
 } // namespace tavrin::test

@@ -112,15 +112,26 @@ navy_top() {
         awk -F'[,:]' '/#000080/ { print $2; exit }'
 }
 
-# Picks palette cell 208 (column 0, row 13: pure green in the game's palette) and the
-# pencil, and sets PANEL_LEFT and PANEL_TOP. The palette stands at the window's right
-# edge: its left in pixels is (width in twips - 3275) / 15, and its cells start 13 pixels
-# in and 27 below its top.
-pick_green_pencil() {
+# Where the bars stand, in screen pixels: the palette's title sets the surface's top; the
+# tool bar stands at the right edge, 4650 twips down. Sets width, height, palette_left,
+# palette_top, surface_top, bar_left and bar_top.
+locate_bars() {
     width=$(xdotool getdisplaygeometry | cut -d' ' -f1)
-    PANEL_LEFT=$(( (width * 15 - 3275 + 7) / 15 ))
-    PANEL_TOP=$(navy_top $((PANEL_LEFT + 40)))
-    [ -n "$PANEL_TOP" ] || fail "the palette is not on the screen"
+    height=$(xdotool getdisplaygeometry | cut -d' ' -f2)
+    palette_left=$(((width * 15 - 3275 + 7) / 15))
+    palette_top=$(navy_top $((palette_left + 40)))
+    [ -n "$palette_top" ] || fail "the palette is not on the screen"
+    surface_top=$((palette_top - 510 / 15))
+    bar_left=$(((width * 15 - 2405 + 7) / 15))
+    bar_top=$((surface_top + 4650 / 15))
+}
+
+# Picks palette cell 208 (column 0, row 13: pure green in the game's palette) and the
+# pencil, and sets PANEL_LEFT and PANEL_TOP, the palette's top left; its cells start 13
+# pixels in and 27 below its top.
+pick_green_pencil() {
+    locate_bars
+    PANEL_LEFT=$palette_left PANEL_TOP=$palette_top
     xdotool mousemove $((PANEL_LEFT + 13 + 5)) $((PANEL_TOP + 27 + 13 * 11 + 5)) click 1
     sleep 0.3
     open_menu "$1" 140                       # Tools

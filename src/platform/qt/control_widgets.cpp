@@ -1,55 +1,25 @@
 #include "platform/qt/control_widgets.h"
 
 #include "platform/picture_box.h"
+#include "platform/qt/button_widget.h"
 #include "platform/qt/dispatch.h"
+#include "platform/qt/mouse_state.h"
 #include "platform/qt/picture_widget.h"
 #include "platform/qt/text_box_widget.h"
 
-#include <QApplication>
 #include <QFrame>
 #include <QLabel>
 #include <QListWidget>
+#include <QMouseEvent>
 #include <QProgressBar>
-#include <QPushButton>
 #include <QSlider>
-#include <QStyle>
 #include <QVBoxLayout>
-
-#include <map>
 
 namespace platform::qt {
 
 namespace {
 
 QString qs(const std::string& s) { return QString::fromStdString(s); }
-
-// The tool buttons carry a picture and a tool tip but no caption; until they have
-// drawn icons, a short word stands in for the picture.
-QString toolGlyph(const std::string& toolTip) {
-    static const std::map<std::string, QString> glyphs = {
-        {"Pencil (Pixel)", "Pen"},
-        {"Paint-Brush ", "Brush"},
-        {"Air-Brush", "Air"},
-        {"Blur", "Blur"},
-        {"Mask/Color Replace", "Mask"},
-        {"Eye-Dropper", "Eye"},
-        {"Rectangle", "Rect"},
-        {"Filled Rectangle", "Fill"},
-        {"Zoom", "Zoom"},
-        {"Pan Some", "500"},
-        {"Pan Alot", "5000"},
-        {"Line", "Line"},
-        {"Left", "\u25C0"},
-        {"Right", "\u25B6"},
-        {"Up", "\u25B2"},
-        {"Down", "\u25BC"},
-        {"Smudge", "Grad"},
-        {"Text", "Text"},
-        {"Close", "x"},
-    };
-    auto it = glyphs.find(toolTip);
-    return it == glyphs.end() ? QString() : it->second;
-}
 
 // Title bars of the floating bars look like a window's caption.
 bool isTitleBar(const std::string& name) {
@@ -60,22 +30,26 @@ bool isTitleBar(const std::string& name) {
 class PanelWidget : public QFrame {
 public:
     PanelWidget(platform::Panel& panel, QWidget* parent)
-        : QFrame(parent), label_(new QLabel(this)) {
+        : QFrame(parent), panel_(panel), label_(new QLabel(this)) {
         setFrameStyle(QFrame::Panel | QFrame::Raised);
         setLineWidth(1);
         setAutoFillBackground(true);
-        if (isTitleBar(panel.name())) {
-            QPalette pal = palette();
+        QPalette pal = palette();
+        // Its own face, whatever back colour the form takes.
+        pal.setColor(QPalette::Window, pal.color(QPalette::Window));
+        const bool title = isTitleBar(panel.name());
+        if (title) {
             pal.setColor(QPalette::Window, QColor(0, 0, 128));
             pal.setColor(QPalette::WindowText, Qt::white);
-            setPalette(pal);
             QFont f = label_->font();
             f.setBold(true);
             label_->setFont(f);
         }
+        setPalette(pal);
         label_->setAttribute(Qt::WA_TransparentForMouseEvents);
         auto* layout = new QVBoxLayout(this);
-        layout->setContentsMargins(3, 0, 3, 0);
+        // A title's caption keeps clear of the close button at its right end.
+        layout->setContentsMargins(3, 0, title ? 20 : 3, 0);
         layout->addWidget(label_);
         layout->addStretch();
         label_->setObjectName("caption");
@@ -91,7 +65,28 @@ public:
         }
     }
 
+protected:
+    // A grip's press and release, in twips from the panel's corner.
+    void mousePressEvent(QMouseEvent* event) override {
+        send(panel_.MouseDown, buttonBits(event->button()), event);
+    }
+    void mouseReleaseEvent(QMouseEvent* event) override {
+        send(panel_.MouseUp, buttonBits(event->button()), event);
+    }
+
 private:
+    void send(const MouseHandler& handler, int16_t button, QMouseEvent* event) {
+        if (!handler) { // not a grip: the panel under it may want the press
+            event->ignore();
+            return;
+        }
+        const auto x = static_cast<float>(event->position().x() * 15.0);
+        const auto y = static_cast<float>(event->position().y() * 15.0);
+        const int16_t shift = shiftState(event->modifiers());
+        runEvent([&] { handler(button, shift, x, y); });
+    }
+
+    platform::Panel& panel_;
     QLabel* label_;
 };
 
@@ -111,12 +106,9 @@ QWidget* makeControlWidget(Control& control, QWidget* parent) {
     case ControlKind::Panel:
         w = new PanelWidget(static_cast<Panel&>(control), parent);
         break;
-    case ControlKind::Button: {
-        auto* b = new QPushButton(parent);
-        QObject::connect(b, &QPushButton::clicked, b, [&control] { runEvent(control.Click); });
-        w = b;
+    case ControlKind::Button:
+        w = new ButtonWidget(static_cast<CommandButton&>(control), parent);
         break;
-    }
     case ControlKind::Label:
         w = new QLabel(parent);
         break;
@@ -154,17 +146,7 @@ void updateControlWidget(Control& control, QWidget* widget, const PropBase* chan
         static_cast<PanelWidget*>(widget)->setCaption(static_cast<Panel&>(control).Caption);
         break;
     case ControlKind::Button: {
-        auto& c = static_cast<CommandButton&>(control);
-        auto* b = static_cast<QPushButton*>(widget);
-        QString caption = qs(c.Caption);
-        if (caption.isEmpty()) {
-            caption = toolGlyph(c.ToolTipText);
-            QFont small = QApplication::font(b); // not b->font(): updates come often
-            small.setPointSizeF(small.pointSizeF() * 0.8);
-            b->setFont(small);
-        }
-        b->setText(caption);
-        b->setToolTip(qs(c.ToolTipText));
+        static_cast<ButtonWidget*>(widget)->follow();
         break;
     }
     case ControlKind::Label: {
@@ -211,17 +193,6 @@ void updateControlWidget(Control& control, QWidget* widget, const PropBase* chan
     default:
         break;
     }
-}
-
-QIcon toolbarIcon(const std::string& key, QStyle* style) {
-    static const std::map<std::string, QStyle::StandardPixmap> icons = {
-        {"New", QStyle::SP_FileIcon},
-        {"Open", QStyle::SP_DialogOpenButton},
-        {"Save", QStyle::SP_DialogSaveButton},
-        {"Print", QStyle::SP_ComputerIcon},
-    };
-    auto it = icons.find(key);
-    return it == icons.end() ? QIcon() : style->standardIcon(it->second);
 }
 
 } // namespace platform::qt

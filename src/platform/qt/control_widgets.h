@@ -2,9 +2,6 @@
 // One widget for each kind of stock control, and how it follows its control.
 #include "platform/controls.h"
 
-#include <QIcon>
-
-class QStyle;
 class QWidget;
 
 namespace platform::qt {
@@ -15,7 +12,5 @@ QWidget* makeControlWidget(Control& control, QWidget* parent);
 // Brings the widget's content (caption, text, items, value) up to the control's: what the
 // property `changed` holds, or all of it when changed is nullptr.
 void updateControlWidget(Control& control, QWidget* widget, const PropBase* changed);
-// The picture on a tool bar button, by its key.
-QIcon toolbarIcon(const std::string& key, QStyle* style);
 
 } // namespace platform::qt

@@ -1,7 +1,9 @@
 #include "platform/qt/form_window.h"
 
+#include "platform/qt/button_widget.h"
 #include "platform/qt/control_widgets.h"
 #include "platform/qt/dispatch.h"
+#include "platform/qt/floating_panels.h"
 #include "platform/qt/picture_widget.h"
 
 #include <QAction>
@@ -14,7 +16,6 @@
 #include <QPointer>
 #include <QScreen>
 #include <QStatusBar>
-#include <QStyle>
 #include <QToolBar>
 
 namespace platform::qt {
@@ -27,21 +28,25 @@ FormWindow::FormWindow(Form& form) : form_(form), surface_(new QWidget(this)) {
     setWindowTitle(QString::fromStdString(form_.Caption.get()));
     watch(form_, [this] { setWindowTitle(QString::fromStdString(form_.Caption.get())); });
     followForm();
+    new FloatingPanels(*this, surface_);
     registerWindow(this);
 }
 
-// A back colour of the form's own (not one of the system's), the form's clicks on its
-// free area, and a maximise while it is shown.
+// A back colour of the form's own (not one of the system's) as it is and whenever it
+// changes, the form's clicks on its free area, and a maximise while it is shown.
 void FormWindow::followForm() {
-    const auto back = static_cast<uint32_t>(form_.BackColor.get());
-    if ((back & 0x80000000u) == 0) {
+    const auto showBackColor = [this] {
+        const auto back = static_cast<uint32_t>(form_.BackColor.get());
+        if ((back & 0x80000000u) != 0) return;
         QPalette pal = surface_->palette();
         pal.setColor(QPalette::Window,
                      QColor(back & 0xFF, (back >> 8) & 0xFF, (back >> 16) & 0xFF));
         surface_->setPalette(pal);
-    }
+    };
+    showBackColor();
     surface_->installEventFilter(this);
-    observers_.add(form_, form_.observe([this](const PropBase* p) {
+    observers_.add(form_, form_.observe([this, showBackColor](const PropBase* p) {
+        if (p == &form_.BackColor) showBackColor();
         if (p != &form_.WindowState || !isVisible()) return;
         applyWindowState();
         // Read at once by whoever maximised it: the size the window takes, not a later one.
@@ -220,7 +225,7 @@ void FormWindow::buildToolbar(Toolbar& bar) {
             tb->addSeparator();
             continue;
         }
-        QAction* a = tb->addAction(toolbarIcon(b.Key, style()), QString::fromStdString(b.Key));
+        QAction* a = tb->addAction(pictureIcon(b.Image), QString::fromStdString(b.Key));
         a->setToolTip(QString::fromStdString(b.ToolTipText));
         a->setObjectName(QString::fromStdString(b.Key));
         const std::string key = b.Key;

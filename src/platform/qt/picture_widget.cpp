@@ -1,6 +1,7 @@
 #include "platform/qt/picture_widget.h"
 
 #include "platform/qt/dispatch.h"
+#include "platform/qt/mouse_state.h"
 
 #include <algorithm>
 
@@ -16,20 +17,6 @@ PictureWidget::PictureWidget(PictureBox& box, QWidget* parent) : QWidget(parent)
     setAttribute(Qt::WA_OpaquePaintEvent);
     setMouseTracking(true); // moves come without a button too
 }
-
-namespace {
-
-int16_t shiftState(Qt::KeyboardModifiers m) {
-    return static_cast<int16_t>((m & Qt::ShiftModifier ? 1 : 0) |
-                                (m & Qt::ControlModifier ? 2 : 0) | (m & Qt::AltModifier ? 4 : 0));
-}
-
-// Qt's left, right and middle are 1, 2 and 4, as the form's events count them.
-int16_t buttonBits(Qt::MouseButtons b) {
-    return static_cast<int16_t>(b & (Qt::LeftButton | Qt::RightButton | Qt::MiddleButton));
-}
-
-} // namespace
 
 void PictureWidget::sendMouse(const PictureBox::MouseHandler& handler, int button,
                               QMouseEvent* event) {

@@ -12,6 +12,7 @@
 #include <QDate>
 #include <QDialogButtonBox>
 #include <QFileDialog>
+#include <QFileInfo>
 #include <QFontDialog>
 #include <QImageReader>
 #include <QMenu>
@@ -67,9 +68,20 @@ bool QtHost::fileDialog(CommonDialog& d, bool save) {
     dialog.setAcceptMode(save ? QFileDialog::AcceptSave : QFileDialog::AcceptOpen);
     dialog.setFileMode(save ? QFileDialog::AnyFile : QFileDialog::ExistingFile);
     dialog.setNameFilter(nameFilter(d));
+    // It proposes the file last chosen, as FileName holds it: its folder, and its name
+    // unless that is a pattern. A name without a folder opens where the last dialog was.
+    const QString name = QString::fromStdString(d.FileName.get());
+    const QFileInfo last(name);
+    if (last.fileName() != name)
+        dialog.setDirectory(last.absolutePath());
+    else if (!lastFolder_.isEmpty())
+        dialog.setDirectory(lastFolder_);
+    if (!last.fileName().isEmpty() && !last.fileName().contains('*'))
+        dialog.selectFile(last.fileName());
     syncViews();
     if (dialog.exec() != QDialog::Accepted || dialog.selectedFiles().isEmpty()) return false;
     d.FileName = dialog.selectedFiles().front().toStdString();
+    lastFolder_ = QFileInfo(dialog.selectedFiles().front()).absolutePath();
     return true;
 }
 

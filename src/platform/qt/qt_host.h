@@ -3,6 +3,8 @@
 // window for each form that is shown.
 #include "platform/host.h"
 
+#include <QString>
+
 #include <map>
 #include <memory>
 
@@ -50,6 +52,7 @@ private:
     bool fileDialog(CommonDialog& dialog, bool save);
     std::map<const Form*, std::unique_ptr<FormWindow>> windows_;
     std::unique_ptr<QPrinter> printer_;
+    QString lastFolder_; // where the file dialogs last chose a file
 };
 
 } // namespace platform::qt

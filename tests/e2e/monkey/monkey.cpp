@@ -9,7 +9,6 @@
 #include <QMenu>
 #include <QMenuBar>
 #include <QMouseEvent>
-#include <QPushButton>
 #include <QSlider>
 #include <QTimer>
 #include <QToolBar>
@@ -143,7 +142,7 @@ void Monkey::startUp() {
             return;
         }
         if (!top->isVisible()) continue;
-        for (auto* b : top->findChildren<QPushButton*>())
+        for (auto* b : top->findChildren<QAbstractButton*>())
             if (b->text() == "OK" && b->isVisible()) {
                 say("start form: OK");
                 b->click();
@@ -199,8 +198,11 @@ void Monkey::discover() {
         for (QAction* a : bar->actions())
             if (!a->isSeparator())
                 commands_.push_back({Command::ToolKey, a, "tool bar " + a->text()});
-    for (QPushButton* b : main_->findChildren<QPushButton*>())
-        commands_.push_back({Command::Button, b, "button " + label(b)});
+    // The form's command buttons, whatever their kind; a tool bar's own buttons are its
+    // keys, taken above.
+    for (QAbstractButton* b : main_->findChildren<QAbstractButton*>())
+        if (!qobject_cast<QToolBar*>(b->parentWidget()))
+            commands_.push_back({Command::Button, b, "button " + label(b)});
     for (QLineEdit* e : main_->findChildren<QLineEdit*>())
         commands_.push_back({Command::TextBox, e, "text box " + e->objectName()});
     for (QSlider* s : main_->findChildren<QSlider*>())
