@@ -80,6 +80,10 @@ const Row kToolRows[] = {
     {"mRect", "Box", "", nullptr, Kinds::Hides, "", "Fill_Rect=0"},
     {"mFrect", "Box", "", nullptr, Kinds::Hides, "", "Fill_Rect=1"},
     {"Grf", "Box", "", "Gradient Fill", Kinds::Hides, "", "Fill_Rect=1 Gradient_On=-1"},
+    // The menu's rectangles and the outline button leave a gradient on.
+    {"Grf mRect", "Box", "", "Gradient Fill", Kinds::Hides, "", "Fill_Rect=0 Gradient_On=-1"},
+    {"Grf mFrect", "Box", "", "Gradient Fill", Kinds::Hides, "", "Fill_Rect=1 Gradient_On=-1"},
+    {"Grf SSCommand28", "Box", "", "Rectangle", Kinds::Hides, "", "Fill_Rect=0 Gradient_On=-1"},
     {"mLine", "Line", nullptr, "Line Tool", Kinds::Leaves, ""},
     {"pnPop", "dPaint", nullptr, "Paint-Brush", Kinds::Leaves, "", "Paint_Shade=0"},
     // "&Paint Brush" has no handler: neither the item nor Ctrl+P does anything.
@@ -125,6 +129,7 @@ const Row kOtherRows[] = {
     {"SSCommand27 ToolBar ToolBar", nullptr, nullptr, nullptr, Kinds::Leaves, "",
      "ToolBar+ SSPanel13+"},
     {"SSCommand42", nullptr, nullptr, nullptr, Kinds::Leaves, "", "fil+ SSPanel15-"},
+    {"SSCommand42 fil", nullptr, nullptr, nullptr, Kinds::Leaves, "", "fil- SSPanel15-"},
     {"SSCommand42 fil fil", nullptr, nullptr, nullptr, Kinds::Leaves, "", "fil+ SSPanel15+"},
     {"SSCommand9", nullptr, nullptr, nullptr, Kinds::Leaves, "", "Mask- SSPanel7-"},
     {"tValue", nullptr, nullptr, nullptr, Kinds::Leaves, "", "SSPanel16+"},

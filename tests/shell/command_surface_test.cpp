@@ -1,5 +1,5 @@
-// The menu bar and the floating bars as the tables make them, and the View menu's
-// show and hide with the close buttons' quirk.
+// The menu bar as the table makes it: every item once, its caption, its place and its
+// own shortcut. What each item and close button does is in the table of command rows.
 #include "shell/command_tables.h"
 #include "support/test_support.h"
 
@@ -60,46 +60,6 @@ TEST_F(CommandSurface, EveryMenuItemComesFromTheTableOnceWithItsOwnShortcut) {
          {&frm.space, &frm.space1, &frm.s1, &frm.space2, &frm.s2, &frm.s3, &frm.cer1, &frm.s4,
           &frm.s9, &frm.spacer10, &frm.spacer11, &frm.spacer12})
         EXPECT_TRUE(sep->isSeparator()) << sep->name();
-}
-
-TEST_F(CommandSurface, TheMenuFollowsItsCheckMarkAndSomeCloseButtonsLeaveIt) {
-    // The palette's close button clears the mark, so the menu brings the panel back at
-    // once; the tool bar's and filter bar's leave it, so the first use of the menu item
-    // only clears it and the second shows the bar.
-    struct Bar {
-        platform::CommandButton& close;
-        platform::MenuItem& item;
-        platform::Panel& bar;
-        bool closeClearsMark;
-    };
-    for (Bar b : {Bar{frm.SSCommand8, frm.PALE, frm.SSPanel1, true},
-                  Bar{frm.SSCommand27, frm.ToolBar, frm.SSPanel13, false},
-                  Bar{frm.SSCommand42, frm.fil, frm.SSPanel15, false}}) {
-        SCOPED_TRACE(b.item.name());
-        b.close.Click();
-        EXPECT_FALSE(b.bar.Visible);
-        EXPECT_EQ(b.item.Checked.get(), !b.closeClearsMark);
-        if (!b.closeClearsMark) {
-            b.item.Click();
-            EXPECT_FALSE(b.bar.Visible);
-            EXPECT_FALSE(b.item.Checked);
-        }
-        b.item.Click();
-        EXPECT_TRUE(b.bar.Visible);
-        EXPECT_TRUE(b.item.Checked);
-        b.item.Click(); // and hides the bar it shows
-        EXPECT_FALSE(b.bar.Visible);
-        EXPECT_FALSE(b.item.Checked);
-    }
-
-    frm.SSPanel11.Visible = true;
-    frm.SSCommand11.Click();
-    EXPECT_FALSE(frm.SSPanel11.Visible);
-    frm.SSPanel7.Visible = true;
-    frm.Mask.Checked = true;
-    frm.SSCommand9.Click();
-    EXPECT_FALSE(frm.SSPanel7.Visible);
-    EXPECT_FALSE(frm.Mask.Checked);
 }
 
 } // namespace
