@@ -1,8 +1,10 @@
 // What the model preview takes from the editor and from files: the skin through the
-// palette, the frames' groups, a model file read whole or refused, and pictures of meshes
-// no reader would make.
+// palette, the frames' groups, a model file read whole or refused, pictures of meshes no
+// reader would make, and the damaged and real models read from their bytes.
 #include "model/md2_files.h"
+#include "model/md2_mesh.h"
 #include "model/model_preview.h"
+#include "model/preview_render.h"
 #include "skinfiles/pcx_test_support.h"
 
 #include <algorithm>
@@ -131,6 +133,54 @@ TEST(PreviewSource, ASkinOfAnotherSizeIsStretchedOverTheCoordinates) {
     EXPECT_GT(topLeft & 0xFF, 60u);
     EXPECT_EQ(topLeft >> 8 & 0xFFFF, 0u);
     EXPECT_EQ(bottomRight & 0xFF, bottomRight >> 8 & 0xFF); // grey
+}
+
+SkinTexture cardSkin() { return SkinTexture{4, 4, std::vector<uint32_t>(16, 0x808080)}; }
+
+// Which texel each face shows, and the back after a half turn, is the driver's test
+// (cli/model_preview_test.cpp), through the editor's skin; here what no skin decides.
+TEST(ModelPreview, AnEdgeOnCardOrAFrameThereIsntDrawsLittleOrNothing) {
+    const Md2MeshRead read = readMd2Mesh(previewCard().bytes());
+    ASSERT_EQ(read.problem, "");
+    ASSERT_EQ(read.mesh.frames.size(), 2u);
+    EXPECT_EQ(read.mesh.frames[1].name, "run1");
+    const int size = 64;
+    // Seen from above, the card is an edge: little but background.
+    const auto above =
+        renderPreview(read.mesh, 0, cardSkin(), PreviewView{0, 90, 1, true}, size, size);
+    EXPECT_GT(std::count(above.begin(), above.end(), kPreviewBackground), size * size * 9 / 10);
+    // No such frame: background only.
+    const auto none = renderPreview(read.mesh, 5, cardSkin(), PreviewView{}, size, size);
+    EXPECT_EQ(std::count(none.begin(), none.end(), kPreviewBackground), size * size);
+}
+
+// A cut frame, a vertex past the frame, no frames and a short file are the driver's test,
+// with their messages; here the faults it can't reach.
+TEST(ModelPreview, ADamagedModelSaysWhyInsteadOfShowingPart) {
+    Md2 m = previewCard();
+    m.tris[0] = {0, 1, 9}; // a texture coordinate past the eight there are
+    EXPECT_NE(readMd2Mesh(m.bytes()).problem, "");
+    m = previewCard();
+    m.numTris = 1 << 30; // a count no file could hold asks for nothing
+    EXPECT_NE(readMd2Mesh(m.bytes()).problem, "");
+}
+
+TEST(ModelPreview, RealModelsReadWholeOrSayWhy) {
+    namespace fs = std::filesystem;
+    const fs::path root = fs::path(TAVRIN_REALDATA) / "md2";
+    if (!fs::exists(root)) GTEST_SKIP() << "no real models at " << root;
+    int shown = 0;
+    for (const auto& entry : fs::recursive_directory_iterator(root)) {
+        const std::string ext = entry.path().extension().string();
+        if (ext != ".md2" && ext != ".MD2") continue;
+        const Md2MeshRead read = readMd2Mesh(readFile(entry.path().string()));
+        if (!read.problem.empty()) continue;
+        ++shown;
+        const auto px = renderPreview(read.mesh, read.mesh.frames.size() - 1, SkinTexture{},
+                                      PreviewView{30, 20, 1, true}, 48, 48);
+        EXPECT_LT(std::count(px.begin(), px.end(), kPreviewBackground), 48 * 48) << entry.path();
+    }
+    EXPECT_GT(shown, 40);
 }
 
 } // namespace
