@@ -10,8 +10,6 @@ namespace {
 
 using ColorMask = CanvasTest;
 
-constexpr int kPicW = 38, kPicH = 31;
-
 TEST_F(ColorMask, AClickListsTheColoursPixelsAndTheButtonsPaintThem) {
     // Record 33 given record 32's colour: pixels of either index are listed together.
     Bytes pal = gamePalette();

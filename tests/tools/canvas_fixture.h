@@ -8,6 +8,7 @@ class CanvasTest : public EditorTest {
 protected:
     // picture1 is two columns narrower and one row taller: 38 x 31 at zoom 1.
     static constexpr int kW = 40, kH = 30;
+    static constexpr int kPicW = 38, kPicH = 31;
     static int skinIndex(int x, int y) { return 32 + (x + y) % 8; } // diagonal stripes
 
     void SetUp() override {

@@ -60,7 +60,7 @@ protected:
             for (int x = 0; x < kW; ++x) {
                 const int index = drawn(x, y) ? n : skinIndex(x, y);
                 ASSERT_EQ(grid(x, y), index) << name << " " << x << "," << y;
-                if (x < 38) {
+                if (x < kPicW) {
                     ASSERT_EQ(frm.picture1.Point(x, y), colourOf(index)) << name;
                 }
             }

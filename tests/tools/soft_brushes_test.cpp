@@ -11,7 +11,6 @@ namespace tavrin::test {
 namespace {
 
 constexpr int kCx = 15, kCy = 12; // far from the canvas's edges
-constexpr int kPicW = 38, kPicH = 31;
 
 class SoftBrushes : public CanvasTest {
 protected:
@@ -156,11 +155,11 @@ TEST_F(SoftBrushes, FillPaintsTheCrossNotTheArea) {
         int fill; // grey index picked
         int painted;
     };
-    // A grey 60 field with a one-pixel grey 90 post at (20, 12); the picture is 38 x 31.
+    // A grey 60 field with a one-pixel grey 90 post at (20, 12).
     const Case cases[] = {
-        {"stopped by the post on the right", 15, 12, 200, 31 + 5 + 15 - 1},
-        {"runs to the edges", 10, 20, 200, 31 + 38 - 1},
-        {"the seed already has the fill colour", 10, 20, 60, 31 + 38 - 1},
+        {"stopped by the post on the right", 15, 12, 200, kPicH + 5 + 15 - 1},
+        {"runs to the edges", 10, 20, 200, kPicH + kPicW - 1},
+        {"the seed already has the fill colour", 10, 20, 60, kPicH + kPicW - 1},
     };
     for (const Case& c : cases) {
         SCOPED_TRACE(c.name);
@@ -175,8 +174,8 @@ TEST_F(SoftBrushes, FillPaintsTheCrossNotTheArea) {
         EXPECT_EQ(frm.SSPanel3.Caption.get(), "Fill Area");
         down(c.seedX, c.seedY);
         int n = 0;
-        for (int y = 0; y < 31; ++y)
-            for (int x = 0; x < 38; ++x) {
+        for (int y = 0; y < kPicH; ++y)
+            for (int x = 0; x < kPicW; ++x) {
                 const bool inCross = x == c.seedX || y == c.seedY;
                 const bool isFill = frm.picture1.Point(x, y) == packed(c.fill, c.fill, c.fill) &&
                                     grid(x, y) == c.fill;
