@@ -12,9 +12,6 @@
 namespace tavrin::test {
 namespace {
 
-const std::string kOpenSkin = "answer open " + scriptQuote(TAVRIN_TEST_DATA "/swirl-200x160.pcx") +
-                              "\nanswer msgbox no\nclick pcxIm\n";
-
 // NAME=NUMBER lines of the driver's output.
 std::map<std::string, double> printed(const std::string& out) {
     std::map<std::string, double> values;
@@ -48,7 +45,7 @@ TEST(BarDrag, EachGripDragsItsBarToWhereItIsDropped) {
     for (const Case& c : cases) {
         SCOPED_TRACE(std::string(c.grip) + " on " + c.target);
         std::ostringstream script;
-        script << kOpenSkin << "print Picture7.Left\nprint Picture7.Top\n"
+        script << kOpenTestSkin << "print Picture7.Left\nprint Picture7.Top\n"
                << "grip " << c.grip << " " << c.gripX << " " << c.gripY << "\n"
                << "drop " << c.target << " " << c.x << " " << c.y << "\n"
                << "print " << c.bar << ".Left\nprint " << c.bar << ".Top\n"

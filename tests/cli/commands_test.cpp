@@ -64,10 +64,10 @@ TEST(DriverCommands, RecordsBoundsPointAndDumpAfterStart) {
 // zoom in, paint, save; the saved bytes are what the rules make of the dumped grid.
 TEST(DriverCommands, OpenPickZoomPaintAndSave) {
     TempDir dir;
-    const std::string skin = TAVRIN_TEST_DATA "/swirl-200x160.pcx", grid = dir.file("grid");
+    const std::string& skin = kTestSkin;
+    const std::string grid = dir.file("grid");
     // Green, cell 208 of the palette; one zoom step in at the canvas's middle; the pencil.
-    DriverRun r = runDriver("answer open " + scriptQuote(skin) +
-                            "\nanswer msgbox no\nclick pcxIm\n"
+    DriverRun r = runDriver(kOpenTestSkin +
                             "palette down 1 0 5 148\npalette up 1 0 5 148\n"
                             "click SSCommand19\nmouse down 1 0 100 80\nmouse up 1 0 100 80\n"
                             "click SSCommand4\nmouse down 1 0 40 40\nmouse move 1 0 60 40\n"

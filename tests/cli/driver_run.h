@@ -20,4 +20,9 @@ std::string shellQuote(const std::string& s);
 // A token for a script, in double quotes.
 std::string scriptQuote(const std::string& s);
 
+// The 200 x 160 test skin, and the lines that open it keeping the palette in use.
+inline const std::string kTestSkin = TAVRIN_TEST_DATA "/swirl-200x160.pcx";
+inline const std::string kOpenTestSkin =
+    "answer open " + scriptQuote(kTestSkin) + "\nanswer msgbox no\nclick pcxIm\n";
+
 } // namespace tavrin::test

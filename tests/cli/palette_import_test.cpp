@@ -178,14 +178,13 @@ TEST(PaletteImport, AnImportChangesTheTableOnlyAndTheNextStrokeMatchesTheNewOne)
                    "\nprint Pal_X\nprint Pal_Y\nprint Cur_Color\n";
         };
         const std::string out = run(
-            "answer open " TAVRIN_TEST_DATA
-            "/swirl-200x160.pcx\nanswer msgbox no\nclick pcxIm\npalette down 1 0 5 148\n"
-            "palette up 1 0 5 148\nclick SSCommand4\nmouse down 1 0 20 20\nmouse up 1 0 20 20\n" +
+            kOpenTestSkin +
+            "palette down 1 0 5 148\npalette up 1 0 5 148\nclick SSCommand4\n"
+            "mouse down 1 0 20 20\nmouse up 1 0 20 20\n" +
             state("before") + "answer open " + scriptQuote(file) + "\nclick " + command + "\n" +
             state("after") +
-            "click Undo\nprint Pal_Table 208\nmouse down 1 0 30 20\nmouse up 1 0 30 20\nprint "
-            "Skin_Grid 4020\n"
-            "print Skin_Grid 4030\nprint picture1.Point 30 20\nanswer save " +
+            "click Undo\nprint Pal_Table 208\nmouse down 1 0 30 20\nmouse up 1 0 30 20\n"
+            "print Skin_Grid 4020\nprint Skin_Grid 4030\nprint picture1.Point 30 20\nanswer save " +
             scriptQuote(dir.file("s.pcx")) + "\nclick SKas\n");
         const std::string unchanged =
             "dump grid 33601\ndump picture 198 161\nPal_X=5\nPal_Y=148\nCur_Color=65280\n";

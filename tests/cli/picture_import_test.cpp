@@ -56,13 +56,12 @@ TEST(PictureImport, NoSkinIsMadeAndOnlyThePictureAndTheViewChange) {
         "print Skin_Width\nprint Skin_Height\nprint PCX_Header 9\nprint Pal_Table 9\n"
         "print SSPanel3.Caption\nprint StatusBar1.Panels(1).Text\nprint ActualPixels.Checked\n"
         "print CommonDialog1.KindText\nprint frmMain.MousePointer\n";
-    const std::string out = run(
-        "answer open " TAVRIN_TEST_DATA "/swirl-200x160.pcx\nanswer msgbox no\nclick pcxIm\n"
-        "click SSCommand4\nanswer save " +
-        scriptQuote(dir.file("before.pcx")) + "\nclick SKas\nanswer open cancel\nclick wF\n" +
-        state + "answer open " + scriptQuote(dir.write("p.bmp", picture(30, 20))) +
-        "\nclick OpenSkin\n" + state + "print Tool_Mode\nprint picture1.Point 29 19\nanswer save " +
-        scriptQuote(dir.file("after.pcx")) + "\nclick SKas\n");
+    const std::string out =
+        run(kOpenTestSkin + "click SSCommand4\nanswer save " + scriptQuote(dir.file("before.pcx")) +
+            "\nclick SKas\nanswer open cancel\nclick wF\n" + state + "answer open " +
+            scriptQuote(dir.write("p.bmp", picture(30, 20))) + "\nclick OpenSkin\n" + state +
+            "print Tool_Mode\nprint picture1.Point 29 19\nanswer save " +
+            scriptQuote(dir.file("after.pcx")) + "\nclick SKas\n");
     const auto first = out.find("Skin_Width="), second = out.find("Skin_Width=", first + 1);
     ASSERT_NE(second, std::string::npos) << out;
     const std::string before = out.substr(first, out.find("dialog open", first) - first);

@@ -10,8 +10,6 @@
 namespace tavrin::test {
 namespace {
 
-const std::string kSkin = TAVRIN_TEST_DATA "/swirl-200x160.pcx";
-const std::string kOpen = "answer open " + scriptQuote(kSkin) + "\nanswer msgbox no\nclick pcxIm\n";
 const std::string kDate = "11-23-2026"; // the scripted host's today
 
 // One page as the driver reports it: the form, its two labels and the picture at its
@@ -24,24 +22,25 @@ std::string page(const std::string& line1, int pictureTop = 1965, int pictureLef
 }
 
 TEST(Printing, RepeatedPrintsBuildOnTheFirstLineAndThePreviewsClickStartsAfresh) {
-    const std::string first = kSkin + " Printed By Tavrin on " + kDate;
-    const std::string second = kSkin + " " + first + " on " + kDate;
+    const std::string first = kTestSkin + " Printed By Tavrin on " + kDate;
+    const std::string second = kTestSkin + " " + first + " on " + kDate;
     struct Case {
         const char* name;
         std::string script, out;
     };
     const Case cases[] = {
         // After the first print the picture is centred: later pages show it there.
-        {"menu, then the tool bar's button", kOpen + "click p\nclick tbToolBar.Print\n",
+        {"menu, then the tool bar's button", kOpenTestSkin + "click p\nclick tbToolBar.Print\n",
          page(first) + page(second, 2385)},
         {"a click on a label or the picture keeps the form",
-         kOpen + "click pP\nclick frmPrint.Label1\nclick frmPrint.picture1\nclick p\n",
+         kOpenTestSkin + "click pP\nclick frmPrint.Label1\nclick frmPrint.picture1\nclick p\n",
          page(second, 2385, 3225)},
-        {"a click on the form unloads it", kOpen + "click pP\nclick frmPrint\nclick p\n",
+        {"a click on the form unloads it", kOpenTestSkin + "click pP\nclick frmPrint\nclick p\n",
          page(first)},
         // The preview puts the skin in the middle of the maximised form.
         {"the preview after a print",
-         kOpen + "click p\nclick pP\nprint frmPrint.picture1.Left\nprint frmPrint.picture1.Top\n",
+         kOpenTestSkin +
+             "click p\nclick pP\nprint frmPrint.picture1.Left\nprint frmPrint.picture1.Top\n",
          page(first) + "frmPrint.picture1.Left=3225\nfrmPrint.picture1.Top=2385\n"},
         {"nothing loaded: the line starts with a blank", "click p\n",
          "printed frmPrint 9420 7185\nprinted frmPrint.Label1 60 60 9240 270 \" Printed By "

@@ -15,7 +15,6 @@
 namespace tavrin::test {
 namespace {
 
-const std::string kSkin = TAVRIN_TEST_DATA "/swirl-200x160.pcx";
 constexpr int kSkinWidth = 200;
 
 // Black is palette cell 0, green cell 208. A picked colour becomes the paint colour at
@@ -55,8 +54,8 @@ std::vector<int> readGrid(const std::string& path) {
 // Opens the skin, picks green, chooses the tool and clicks at skin pixel (x, y).
 std::string placed(int x, int y) {
     const std::string at = std::to_string(x) + " " + std::to_string(y);
-    return "answer open " + scriptQuote(kSkin) + "\nanswer msgbox no\nclick pcxIm\n" + kPickGreen +
-           "click SSCommand20\nmouse down 1 0 " + at + "\nmouse up 1 0 " + at + "\n";
+    return kOpenTestSkin + kPickGreen + "click SSCommand20\nmouse down 1 0 " + at +
+           "\nmouse up 1 0 " + at + "\n";
 }
 
 TEST(TextTool, ApplyStampsThePreviewsLitPixelsAtTheClickInTheColourOfThatMoment) {
