@@ -26,7 +26,6 @@ TEST_F(ColorMask, AClickListsTheColoursPixelsAndTheButtonsPaintThem) {
     ASSERT_GT(expected, 0);
 
     frm.SSCommand15_Click();
-    EXPECT_EQ(frm.SSPanel3.Caption.get(), "Color Mask");
     down(8, 8); // x + y = 16: index 32
     EXPECT_EQ(frm.Mask_Count, expected);
     EXPECT_EQ(frm.Cur_Color, listed);

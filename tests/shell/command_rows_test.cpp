@@ -151,6 +151,7 @@ const Row kOtherRows[] = {
     {"gd", nullptr, nullptr, nullptr, Kinds::Leaves, "", "gd+ gl- Gradient_Dark=-1"},
     {"gl", nullptr, nullptr, nullptr, Kinds::Leaves, "", "gd+ gl- Gradient_Dark=-1"},
     {"gd gl", nullptr, nullptr, nullptr, Kinds::Leaves, "", "gd- gl+ Gradient_Dark=0"},
+    {"gl gl", nullptr, nullptr, nullptr, Kinds::Leaves, "", "gd- gl+ Gradient_Dark=0"},
     {"wFc", nullptr, nullptr, nullptr, Kinds::Leaves, "color: "},
     {"bcolor", nullptr, nullptr, nullptr, Kinds::Leaves, "color: "},
     {"Cl256", nullptr, nullptr, nullptr, Kinds::Leaves,

