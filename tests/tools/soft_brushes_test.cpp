@@ -49,13 +49,11 @@ TEST_F(SoftBrushes, AirbrushDabMixesThePaintedCellsAndSetsTheCentrePure) {
     struct Case {
         const char* name;
         bool nine;
-        int reach;
         int expected[5][5]; // rows -2..2, columns -2..2; -1: untouched
     };
     const Case cases[] = {
         {"9 Pixels",
          true,
-         2,
          {{20, 40, 60, 40, 20},
           {40, 60, 100, 60, 40},
           {60, 100, 180, 100, 60},
@@ -63,7 +61,6 @@ TEST_F(SoftBrushes, AirbrushDabMixesThePaintedCellsAndSetsTheCentrePure) {
           {20, 40, 60, 40, 20}}},
         {"1 Pixels",
          false,
-         1,
          {{-1, -1, -1, -1, -1},
           {-1, 40, 60, 40, -1},
           {-1, 60, 180, 60, -1},
