@@ -7,7 +7,6 @@
 #include "filters/picture_passes.h"
 #include "filters/work_buf_kernels.h"
 #include "platform/vb_numeric.h"
-#include "tools/shape_geometry.h"
 
 #include <algorithm>
 #include <cmath>
@@ -192,8 +191,8 @@ void FrmMain::workBufPasses(const filters::PassPlan& plan) {
 // grid's.
 void FrmMain::filterBox(Kernel kernel) {
     try {
-        const int64_t left = cornerPixel(Band_X), top = cornerPixel(Band_Y);
-        const int64_t right = cornerPixel(Cur_X), bottom = cornerPixel(Cur_Y);
+        const int64_t left = vb::cornerPixel(Band_X), top = vb::cornerPixel(Band_Y);
+        const int64_t right = vb::cornerPixel(Cur_X), bottom = vb::cornerPixel(Cur_Y);
         const int64_t cut = kernel == Kernel::Tint ? 0 : 1;
         const PassArea first{left, top, right - cut, bottom - cut};
         const int64_t more = kernel == Kernel::Blur || kernel == Kernel::Emboss ? 1 : 0;

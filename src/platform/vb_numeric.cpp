@@ -2,6 +2,7 @@
 
 #include "platform/vb_error.h"
 
+#include <algorithm>
 #include <cmath>
 
 namespace vb {
@@ -10,6 +11,11 @@ double roundHalfEven(double v) {
     double r = std::round(v); // halves away from zero
     if (std::fabs(v - std::trunc(v)) == 0.5) r = 2.0 * std::round(v / 2.0);
     return r;
+}
+
+int64_t cornerPixel(double v) {
+    if (std::isnan(v)) raise(Overflow);
+    return static_cast<int64_t>(std::clamp(roundHalfEven(v), -kFarPixel, kFarPixel));
 }
 
 int16_t CInt(double v) {

@@ -15,6 +15,12 @@ int16_t CBool16(bool b); // True is -1
 // Arithmetic on a plain 16-bit integer field: wraps at its width without a check.
 int16_t wrap16(long long v);
 
+// A corner of a shape or a filter's box as a whole pixel that loops can count from,
+// rounded half to even; past 2^52 (kFarPixel) no pixel is near anyway. NaN raises
+// Overflow.
+inline constexpr double kFarPixel = 4503599627370496.0;
+int64_t cornerPixel(double v);
+
 // Int(): the largest whole number not above v.
 double Int(double v);
 

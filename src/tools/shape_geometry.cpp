@@ -1,22 +1,12 @@
 #include "tools/shape_geometry.h"
 
-#include "platform/vb_error.h"
 #include "platform/vb_numeric.h"
 
 namespace tavrin {
 
-namespace {
-constexpr double kFar = 4503599627370496.0; // 2^52
-} // namespace
-
-int64_t cornerPixel(double v) {
-    if (std::isnan(v)) vb::raise(vb::Overflow);
-    return static_cast<int64_t>(std::clamp(vb::roundHalfEven(v), -kFar, kFar));
-}
-
 int64_t gradientStripeWidth(double left, double right) {
     const double b = std::floor((right - left) / 16 + 0.5);
-    return b >= 1 ? static_cast<int64_t>(std::min(b, kFar)) : 1;
+    return b >= 1 ? static_cast<int64_t>(std::min(b, vb::kFarPixel)) : 1;
 }
 
 int32_t nextStripeColor(int32_t color, int32_t start, int step) {

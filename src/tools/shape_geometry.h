@@ -1,6 +1,7 @@
 #pragma once
 // The arithmetic of the line tool and of the gradient fill, apart from the commands.
 #include "platform/raster.h"
+#include "platform/vb_numeric.h"
 
 #include <algorithm>
 #include <cmath>
@@ -8,9 +9,7 @@
 
 namespace tavrin {
 
-// A corner of a shape or a filter's box as a whole pixel that loops can count from; past
-// 2^52 no pixel is near anyway. NaN raises Overflow.
-int64_t cornerPixel(double v);
+using vb::cornerPixel;
 
 // The points of the line tool from (x1, y1) to (x2, y2), whole pixels, in the order it
 // sets them. It walks the longer axis one pixel at a time (across when dx > dy, else
