@@ -4,14 +4,8 @@
 # Usage: bar_drag_test.sh path/to/tavrin SKIN.pcx
 . "$(dirname "$0")/lib.sh"
 TAVRIN="$1"
-WORK="$(mktemp -d)"
-trap 'finish; rm -rf "$WORK"' EXIT
-cp "$2" "$WORK/skin.pcx"
-start_x
-
-start_tavrin "$TAVRIN"
-main=$(press_ok)
-open_skin "$main" "$WORK/skin.pcx"
+make_work
+start_with_skin "$2"
 
 navy_at() {
     case "$(xwd -root -silent | convert xwd:- -crop "1x1+$1+$2" txt:-)" in

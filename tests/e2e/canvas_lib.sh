@@ -124,11 +124,7 @@ colour() {
 # The editor started on a private X server with a copy of the skin open, the bars and
 # the canvas found, and the replay begun.
 open_on_canvas() {
-    cp "$1" "$WORK/skin.pcx"
-    start_x
-    start_tavrin "$TAVRIN"
-    main=$(press_ok)
-    open_skin "$main" "$WORK/skin.pcx"
+    start_with_skin "$1"
     find_bars
     find_canvas
 }

@@ -6,14 +6,8 @@
 # Usage: commands_test.sh path/to/tavrin SKIN.pcx
 . "$(dirname "$0")/lib.sh"
 TAVRIN="$1"
-WORK="$(mktemp -d)"
-trap 'finish; rm -rf "$WORK"' EXIT
-cp "$2" "$WORK/skin.pcx"
-start_x
-
-start_tavrin "$TAVRIN"
-main=$(press_ok)
-open_skin "$main" "$WORK/skin.pcx"
+make_work
+start_with_skin "$2"
 
 locate_bars
 

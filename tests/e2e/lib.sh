@@ -171,6 +171,22 @@ wait_exit() {
     fail "the editor did not end"
 }
 
+# A scratch folder in WORK, removed with the editor and the X server when the test ends.
+make_work() {
+    WORK="$(mktemp -d)"
+    trap 'finish; rm -rf "$WORK"' EXIT
+}
+
+# Starts the X server and the editor ($TAVRIN), presses OK and opens a copy of the skin
+# as $WORK/skin.pcx; sets main to the main window's id.
+start_with_skin() {
+    cp "$1" "$WORK/skin.pcx"
+    start_x
+    start_tavrin "$TAVRIN"
+    main=$(press_ok)
+    open_skin "$main" "$WORK/skin.pcx"
+}
+
 finish() {
     [ -z "${TAVRIN_PID:-}" ] || kill "$TAVRIN_PID" 2>/dev/null || true
     [ -z "${XVFB_PID:-}" ] || kill "$XVFB_PID" 2>/dev/null || true

@@ -5,16 +5,10 @@
 # Usage: model_preview_test.sh path/to/tavrin MODEL.md2 SKIN.pcx
 . "$(dirname "$0")/lib.sh"
 TAVRIN="$1"
-WORK="$(mktemp -d)"
-trap 'finish; rm -rf "$WORK"' EXIT
+make_work
 [ -f "$2" ] && [ -f "$3" ] || { echo "no real model and skin: skipped"; exit 77; }
 cp "$2" "$WORK/tris.md2"
-cp "$3" "$WORK/skin.pcx"
-start_x
-
-start_tavrin "$TAVRIN"
-main=$(press_ok)
-open_skin "$main" "$WORK/skin.pcx"
+start_with_skin "$3"
 
 open_menu "$main" 96                             # View
 xdotool key Down Down Down Down Down Down Return # Wire Frame

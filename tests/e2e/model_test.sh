@@ -6,8 +6,7 @@
 . "$(dirname "$0")/lib.sh"
 TAVRIN="$1"
 SCRIPT="$2"
-WORK="$(mktemp -d)"
-trap 'finish; rm -rf "$WORK"' EXIT
+make_work
 [ -f "$3" ] && [ -f "$4" ] || { echo "no real models: skipped"; exit 77; }
 cp "$3" "$WORK/first.md2"
 cp "$4" "$WORK/second.md2"

@@ -6,8 +6,7 @@
 TAVRIN="$1"
 SCRIPT="$2"
 SKIN="$3"
-WORK="$(mktemp -d)"
-trap 'finish; rm -rf "$WORK"' EXIT
+make_work
 cp "$SKIN" "$WORK/skin.pcx"
 start_x
 

@@ -6,15 +6,8 @@
 . "$(dirname "$0")/lib.sh"
 TAVRIN="$1"
 SCRIPT="$2"
-WORK="$(mktemp -d)"
-trap 'finish; rm -rf "$WORK"' EXIT
-cp "$3" "$WORK/skin.pcx"
-start_x
-
-start_tavrin "$TAVRIN"
-main=$(press_ok)
-
-open_skin "$main" "$WORK/skin.pcx"
+make_work
+start_with_skin "$3"
 
 pick_green_pencil "$main"
 panel_top=$PANEL_TOP

@@ -7,8 +7,7 @@
 . "$(dirname "$0")/lib.sh"
 TAVRIN="$1"
 SCRIPT="$2"
-WORK="$(mktemp -d)"
-trap 'finish; rm -rf "$WORK"' EXIT
+make_work
 cp "$3" "$WORK/skin.pcx"
 
 # An ACT table: 768 bytes, byte k being (7k + 3) mod 256.

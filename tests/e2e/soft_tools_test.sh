@@ -8,8 +8,7 @@
 . "$(dirname "$0")/canvas_lib.sh"
 TAVRIN="$1"
 SCRIPT="$2"
-WORK="$(mktemp -d)"
-trap 'finish; rm -rf "$WORK"' EXIT
+make_work
 open_on_canvas "$3"
 
 # A press at (x1, y) and four moves with the button held to (x2, y): the brushes paint at

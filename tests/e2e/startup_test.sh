@@ -3,8 +3,7 @@
 # Usage: startup_test.sh path/to/tavrin
 . "$(dirname "$0")/lib.sh"
 TAVRIN="$1"
-WORK="$(mktemp -d)"
-trap 'finish; rm -rf "$WORK"' EXIT
+make_work
 start_x
 
 start_tavrin "$TAVRIN"

@@ -8,8 +8,7 @@
 . "$(dirname "$0")/lib.sh"
 TAVRIN="$1"
 SCRIPT="$2"
-WORK="$(mktemp -d)"
-trap 'finish; rm -rf "$WORK"' EXIT
+make_work
 cp "$3" "$WORK/skin.pcx"
 start_x
 
